@@ -1,11 +1,13 @@
 #include "TemporaryDataFolder.h"
 
 #include "ZvEditorConfig.h"
+#include "ZvEditorUserConfig.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QtTest>
 
 namespace ZavoTest {
@@ -21,24 +23,28 @@ void verify(bool succeeded, const char *what, const QString &path)
 } // namespace
 
 TemporaryDataFolder::TemporaryDataFolder()
+    : m_settings(std::make_unique<QSettings>(m_root.filePath(QStringLiteral("settings.ini")),
+                                             QSettings::IniFormat))
 {
-    verify(m_folder.isValid(), "temporary data folder", m_folder.errorString());
+    verify(m_root.isValid() && QDir().mkpath(path()), "temporary folder", m_root.errorString());
     Zavo::ZvEditorConfig::setDataDir(path());
+    Zavo::ZvEditorUserConfig::setSettings(m_settings.get());
 }
 
 TemporaryDataFolder::~TemporaryDataFolder()
 {
+    Zavo::ZvEditorUserConfig::resetSettings();
     Zavo::ZvEditorConfig::setDataDir(QString());
 }
 
 QString TemporaryDataFolder::path() const
 {
-    return m_folder.path();
+    return m_root.filePath(QStringLiteral("data"));
 }
 
 QString TemporaryDataFolder::filePath(const QString &relativePath) const
 {
-    return m_folder.filePath(relativePath);
+    return QDir(path()).filePath(relativePath);
 }
 
 QString TemporaryDataFolder::channelFolder() const
@@ -49,6 +55,11 @@ QString TemporaryDataFolder::channelFolder() const
 QString TemporaryDataFolder::stageFolder() const
 {
     return filePath(QStringLiteral("stage"));
+}
+
+QSettings *TemporaryDataFolder::settings() const
+{
+    return m_settings.get();
 }
 
 QStringList TemporaryDataFolder::names(const QString &relativeFolder) const

@@ -5,10 +5,15 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <memory>
+
+class QSettings;
+
 namespace ZavoTest {
 
-/// A data folder of one test. While it lives, ZvEditorConfig::dataDir() is its path; when it dies
-/// its files go, and the program's own choice of the data folder holds again.
+/// The data folder and the user settings of one test. While it lives, ZvEditorConfig::dataDir() is
+/// its path and ZvEditorUserConfig::settings() its own, at first empty, INI file beside the folder.
+/// When it dies its files go, and the program's own choice of both holds again.
 class TemporaryDataFolder final
 {
     Q_DISABLE_COPY(TemporaryDataFolder)
@@ -28,6 +33,9 @@ public:
 
     /// Absolute path of "stage" below the folder. It is not created by this.
     QString stageFolder() const;
+
+    /// What ZvEditorUserConfig::settings() gives; never null.
+    QSettings *settings() const;
 
     /// Names of the files (hidden ones too) and folders in @p relativeFolder, sorted by byte order.
     QStringList names(const QString &relativeFolder = QString()) const;
@@ -49,7 +57,8 @@ public:
     void copyFrom(const QString &sourceFolder);
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir m_root;
+    std::unique_ptr<QSettings> m_settings;
 };
 
 } // namespace ZavoTest

@@ -1,11 +1,14 @@
 #include "TemporaryDataFolder.h"
 
 #include "ZvEditorConfig.h"
+#include "ZvEditorUserConfig.h"
 
 #include <QFileInfo>
+#include <QSettings>
 #include <QtTest>
 
 using Zavo::ZvEditorConfig;
+using Zavo::ZvEditorUserConfig;
 using ZavoTest::TemporaryDataFolder;
 
 class tst_TemporaryDataFolder : public QObject
@@ -14,6 +17,7 @@ class tst_TemporaryDataFolder : public QObject
 
 private Q_SLOTS:
     void isTheDataFolderWhileItLives();
+    void holdsTheUserSettings();
     void writesAndReads();
     void copies();
 };
@@ -30,6 +34,20 @@ void tst_TemporaryDataFolder::isTheDataFolderWhileItLives()
     }
     QCOMPARE(ZvEditorConfig::dataDir(), before);
     QVERIFY(!QFileInfo::exists(path));
+}
+
+void tst_TemporaryDataFolder::holdsTheUserSettings()
+{
+    const QSettings *const before = ZvEditorUserConfig::settings();
+    {
+        TemporaryDataFolder folder;
+        QCOMPARE(ZvEditorUserConfig::settings(), folder.settings());
+        ZvEditorUserConfig::setValue(QStringLiteral("key"), 3);
+        QCOMPARE(folder.settings()->value(QStringLiteral("key")).toInt(), 3);
+        QVERIFY(folder.names().isEmpty());
+    }
+    QCOMPARE(ZvEditorUserConfig::settings(), before);
+    QVERIFY(!ZvEditorUserConfig::value(QStringLiteral("key")).isValid());
 }
 
 void tst_TemporaryDataFolder::writesAndReads()
