@@ -1,6 +1,7 @@
 #include "ZvEditorConfig.h"
 
 #include "Path.h"
+#include "ZvConfig.h"
 
 #include <QStandardPaths>
 
@@ -11,6 +12,17 @@ QString &replacedDataDir()
 {
     static QString dataDir;
     return dataDir;
+}
+
+QString configFile()
+{
+    return Path::combine(ZvEditorConfig::dataDir(), QStringLiteral("config.ini"));
+}
+
+ZvConfig &config()
+{
+    static ZvConfig instance(configFile());
+    return instance;
 }
 } // namespace
 
@@ -28,6 +40,18 @@ QString ZvEditorConfig::dataDir()
 void ZvEditorConfig::setDataDir(const QString &dataDir)
 {
     replacedDataDir() = dataDir;
+}
+
+ZvConfig *ZvEditorConfig::getConfig()
+{
+    if (config().filePath() != configFile())
+        reload();
+    return &config();
+}
+
+void ZvEditorConfig::reload()
+{
+    config() = ZvConfig(configFile());
 }
 
 } // namespace Zavo
