@@ -1,0 +1,29 @@
+#include "domain/SelectionType.h"
+#include "domain/ZvScheduleBasicInfo.h"
+#include "domain/ZvTimeTableTimeLabelInfo.h"
+
+#include <QMap>
+#include <QRectF>
+
+namespace Zavo {
+
+namespace {
+
+// Signals spell these types without their namespace, and queued connections go by that name.
+void registerMetaTypes()
+{
+    qRegisterMetaType<QMap<int, QRectF>>("QMap<int,QRectF>");
+    qRegisterMetaType<ZvScheduleBasicInfo>("ZvScheduleBasicInfo");
+    qRegisterMetaType<ZvScheduleBasicInfo *>("ZvScheduleBasicInfo*");
+    qRegisterMetaType<QList<ZvScheduleBasicInfo>>("QList<ZvScheduleBasicInfo>");
+    qRegisterMetaType<SelectionType>("SelectionType");
+    qRegisterMetaType<ZvTimeTableTimeLabelInfo>("ZvTimeTableTimeLabelInfo");
+    qRegisterMetaType<QList<ZvTimeTableTimeLabelInfo>>("QList<ZvTimeTableTimeLabelInfo>");
+}
+
+} // namespace
+
+// Runs when the library is loaded, before any signal can be connected.
+Q_CONSTRUCTOR_FUNCTION(registerMetaTypes)
+
+} // namespace Zavo

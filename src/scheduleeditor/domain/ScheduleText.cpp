@@ -1,0 +1,31 @@
+#include "domain/ScheduleText.h"
+
+#include "domain/ZvScheduleBasicInfo.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace Zavo {
+
+QString dateText(const QDate &date)
+{
+    const QLocale locale = QLocale::system();
+    return QStringLiteral("%1(%2)").arg(locale.toString(date, QLocale::LongFormat),
+                                        locale.dayName(date.dayOfWeek(), QLocale::ShortFormat));
+}
+
+QString scheduleText(const ZvScheduleBasicInfo &info)
+{
+    switch (info.type()) {
+    case ZvSchedule::Default:
+        return QCoreApplication::translate("Zavo::ZvScheduleCommon", "Default");
+    case ZvSchedule::Date:
+        return dateText(info.date());
+    case ZvSchedule::DayOfWeek:
+        return QLocale::system().dayName(info.dayOfWeek(), QLocale::LongFormat);
+    default:
+        return QString();
+    }
+}
+
+} // namespace Zavo

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QMetaType>
+
+namespace Zavo {
+
+/// The frames of the switcher that can hold the selection. The numbers are those of the settings
+/// and not those of ZvSchedule::ScheduleTypes; the word of a value is the prefix of the object
+/// names of its frames.
+enum class SelectionType { Calendar = 1, Week = 2, DefaultSchedule = 3 };
+
+} // namespace Zavo
+
+Q_DECLARE_METATYPE(Zavo::SelectionType)
