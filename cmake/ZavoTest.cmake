@@ -32,13 +32,19 @@ function(zavo_add_test name)
   target_link_libraries(${name} PRIVATE ZavoTestSupport ${ARG_LIBRARIES})
   add_test(NAME ${name} COMMAND ${name})
   set(home ${CMAKE_CURRENT_BINARY_DIR}/home/${name})
+  set(sanitizers "")
+  if(ZAVO_SANITIZE)
+    set(suppressions ${PROJECT_SOURCE_DIR}/cmake/leaks.supp)
+    set(sanitizers "LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0"
+                   "UBSAN_OPTIONS=print_stacktrace=1")
+  endif()
   set_tests_properties(
     ${name}
     PROPERTIES
       TIMEOUT ${ARG_TIMEOUT}
       FAIL_REGULAR_EXPRESSION "${ZAVO_WARNING_EXPRESSION};QSYSTEM:"
       ENVIRONMENT
-      "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_RUNTIME_DIR=${home}/run;ZAVO_DATA_DIR=${home}/zavo"
+      "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_RUNTIME_DIR=${home}/run;ZAVO_DATA_DIR=${home}/zavo;${sanitizers}"
   )
   file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/zavo)
   file(MAKE_DIRECTORY ${home}/run)

@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing. Without an argument: what building, testing and
+# running need; with "lint" also what the format and lint checks need.
+set -euo pipefail
+
+packages=(
+  g++ cmake ninja-build
+  qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libkf5archive-dev
+  # Qt's own catalogues, and fonts that cover the scripts of the example channels.
+  qttranslations5-l10n fonts-dejavu-core fonts-ipafont-gothic
+)
+if [[ "${1:-}" == lint ]]; then
+  packages+=(clang-14 clang-format-14 clang-tidy-14 clazy)
+fi
+
+if ! command -v dpkg-query >/dev/null; then
+  echo "setup: this is no Debian system. Install by hand what stands for: ${packages[*]}" >&2
+  exit 1
+fi
+
+installed=$(dpkg-query --show --showformat='${db:Status-Status} ${Package}\n' 2>/dev/null |
+  sed -n 's/^installed //p')
+missing=()
+for package in "${packages[@]}"; do
+  grep -qxF -- "$package" <<<"$installed" || missing+=("$package")
+done
+[[ ${#missing[@]} -gt 0 ]] || exit 0
+
+as_root=()
+if [[ $(id -u) -ne 0 ]]; then
+  if ! command -v sudo >/dev/null; then
+    echo "setup: as root, run: apt-get install ${missing[*]}" >&2
+    exit 1
+  fi
+  as_root=(sudo)
+fi
+
+echo "setup: installing ${missing[*]}"
+# What is asked by no one must not wait for an answer.
+apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0)
+"${apt[@]}" update </dev/null
+"${apt[@]}" install --yes --no-install-recommends "${missing[@]}" </dev/null
