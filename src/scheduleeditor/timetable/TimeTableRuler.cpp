@@ -1,0 +1,79 @@
+#include "timetable/TimeTableRuler.h"
+
+#include "timetable/TimeAxis.h"
+
+namespace Zavo {
+
+namespace {
+
+constexpr double pixelsBetweenLines = 30.0;
+constexpr double leastScaleOfPartLabels = 2.0;
+constexpr double secondsPerUnit = 60.0;
+constexpr double xOfHourLabel = 0.0;
+constexpr double xOfPartLabel = 1.0;
+
+TimeTableRulerLine lineAt(double y, QTime time, bool isLast)
+{
+    TimeTableRulerLine line;
+    line.y = y;
+    line.time = time;
+    line.isLast = isLast && time.minute() == 0;
+    if (time.minute() == 0) {
+        const bool isHalfDay = time.hour() % 12 == 0 && time.second() == 0;
+        line.kind =
+            isHalfDay || line.isLast ? TimeTableRulerLine::HalfDay : TimeTableRulerLine::Hour;
+    }
+    return line;
+}
+
+} // namespace
+
+TimeTableRuler::TimeTableRuler(double verticalScale)
+    : m_verticalScale(verticalScale)
+{
+    layLines();
+    layLabels();
+}
+
+void TimeTableRuler::layLines()
+{
+    const double step = pixelsBetweenLines / m_verticalScale;
+    const int stepSeconds = static_cast<int>(step * secondsPerUnit);
+    if (stepSeconds <= 0)
+        return;
+    m_lines.reserve(static_cast<int>(TimeAxis::dayLength / step) + 1);
+
+    QTime time(0, 0);
+    QTime previousTime = time;
+    for (double y = TimeAxis::dayTop; y <= TimeAxis::dayBottom; y += step) {
+        m_lines.append(lineAt(y, time, previousTime > time));
+        if (m_lines.last().isLast)
+            break;
+        previousTime = time;
+        time = time.addSecs(stepSeconds);
+    }
+}
+
+QString TimeTableRuler::labelOf(const TimeTableRulerLine &line) const
+{
+    if (line.isLast)
+        return QStringLiteral("24:00");
+    if (line.kind == TimeTableRulerLine::Part && m_verticalScale < leastScaleOfPartLabels)
+        return {};
+    return line.time.toString(QStringLiteral("hh:mm"));
+}
+
+void TimeTableRuler::layLabels()
+{
+    QString lastText;
+    for (const TimeTableRulerLine &line : qAsConst(m_lines)) {
+        const QString text = labelOf(line);
+        if (text.isEmpty() || text == lastText)
+            continue;
+        const double x = line.kind == TimeTableRulerLine::Part ? xOfPartLabel : xOfHourLabel;
+        m_labels.append({QPointF(x, line.y), text});
+        lastText = text;
+    }
+}
+
+} // namespace Zavo

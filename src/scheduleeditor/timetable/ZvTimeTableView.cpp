@@ -1,0 +1,182 @@
+#include "timetable/ZvTimeTableView.h"
+
+#include "timetable/ZvTimeTableBaseItem.h"
+#include "timetable/ZvTimeTableScene.h"
+
+#include <QContextMenuEvent>
+#include <QGraphicsItem>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QResizeEvent>
+#include <QScrollBar>
+
+namespace Zavo {
+
+namespace {
+
+constexpr int movingKeyInterval = 100;     // ms
+constexpr double shareOfWidth = 0.7;       // of the view, for the time table
+constexpr double widthAtUnitScale = 520.0; // px
+
+QString noTime()
+{
+    return QStringLiteral("--:--:--");
+}
+
+} // namespace
+
+ZvTimeTableView::ZvTimeTableView(QGraphicsScene *scene, QWidget *parent)
+    : QGraphicsView(scene, parent)
+    , m_timeString(noTime())
+    , m_noScheduleLabel(new QLabel(this))
+{
+    setMouseTracking(true);
+    setDragMode(RubberBandDrag);
+    setFocusPolicy(Qt::StrongFocus);
+
+    m_noScheduleLabel->setStyleSheet(
+        QStringLiteral("background-color: rgba(0,0,0,128); color: white; font-weight: bold;"));
+    m_noScheduleLabel->setText(tr("This schedule does not exist."));
+    m_noScheduleLabel->setAlignment(Qt::AlignCenter);
+    m_noScheduleLabel->move(0, 0);
+
+    m_movingKeyTimer.setInterval(movingKeyInterval);
+    connect(&m_movingKeyTimer, SIGNAL(timeout()), this, SLOT(onMovingKeyCheckingTimerEvent()));
+    connect(this, SIGNAL(requestContextMenu(QPoint)), this, SLOT(showContextMenu(QPoint)));
+    connect(horizontalScrollBar(), SIGNAL(valueChanged(int)), this,
+                                          SLOT(onHrozontalScrollBarValueChanged(int)));
+}
+
+ZvTimeTableScene *ZvTimeTableView::timeTableScene() const
+{
+    return qobject_cast<ZvTimeTableScene *>(scene());
+}
+
+void ZvTimeTableView::setContextMenu(QMenu *menu)
+{
+    m_contextMenu = menu;
+}
+
+void ZvTimeTableView::setNoScheduleLabelVisible(bool visible)
+{
+    m_noScheduleLabel->setVisible(visible);
+}
+
+void ZvTimeTableView::ensureItemVisible(QGraphicsItem *item)
+{
+    if (!item)
+        return;
+    const QRectF itemRect = item->mapRectToScene(item->boundingRect());
+    const QRectF visibleRect(mapToScene(viewport()->rect().topLeft()),
+                             mapToScene(viewport()->rect().bottomRight()));
+    if (!visibleRect.contains(itemRect))
+        centerOn(item);
+}
+
+void ZvTimeTableView::changeScale(double scale)
+{
+    const QTransform old = transform();
+    setTransform(QTransform(old.m11(), old.m12(), old.m13(), old.m21(), scale, old.m23(), old.m31(),
+                            old.m32(), old.m33()),
+                 false);
+}
+
+void ZvTimeTableView::setHorizontalScale(double scale)
+{
+    const QTransform old = transform();
+    setTransform(QTransform(scale, old.m12(), old.m13(), old.m21(), old.m22(), old.m23(), old.m31(),
+                            old.m32(), old.m33()),
+                 false);
+    if (ZvTimeTableScene *timeTable = timeTableScene())
+        timeTable->setHorizontalScale(scale);
+}
+
+void ZvTimeTableView::resizeEvent(QResizeEvent *event)
+{
+    m_noScheduleLabel->resize(event->size());
+    const double width = event->size().width() * shareOfWidth;
+    setHorizontalScale(width <= widthAtUnitScale ? 1.0 : width / widthAtUnitScale);
+    QGraphicsView::resizeEvent(event);
+}
+
+bool ZvTimeTableView::isMovingKey(const QKeyEvent *event) const
+{
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    const ZvTimeTableScene *timeTable = isArrow ? timeTableScene() : nullptr;
+    return timeTable && !timeTable->selectedTimeItems().isEmpty();
+}
+
+void ZvTimeTableView::keyPressEvent(QKeyEvent *event)
+{
+    if (!isMovingKey(event)) {
+        QGraphicsView::keyPressEvent(event);
+        return;
+    }
+    m_movingKeyTimer.stop();
+    const double step = 1.0 / transform().m22();
+    const double dy = event->key() == Qt::Key_Up ? -step : step;
+    timeTableScene()->moveSelectedTimeItems(QPointF(0.0, dy), QPointF());
+    event->accept();
+}
+
+void ZvTimeTableView::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!isMovingKey(event)) {
+        QGraphicsView::keyReleaseEvent(event);
+        return;
+    }
+    m_movingKeyTimer.start();
+    event->accept();
+}
+
+void ZvTimeTableView::onMovingKeyCheckingTimerEvent()
+{
+    m_movingKeyTimer.stop();
+    Q_EMIT keyReleasedWithItemMoved();
+}
+
+void ZvTimeTableView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (const ZvTimeTableScene *timeTable = timeTableScene()) {
+        const QPointF scenePos = mapToScene(event->pos());
+        QString timeString = noTime();
+        if (const ZvTimeTableBaseItem *base = timeTable->baseItem())
+            timeString = base->timeStringAt(base->mapFromScene(scenePos));
+        if (timeString != m_timeString) {
+            m_timeString = timeString;
+            Q_EMIT timeStringChanged(timeString);
+        }
+        const bool onHandle = timeTable->resizeHandleAt(scenePos) != ZvTimeTableScene::NoDrag;
+        const Qt::CursorShape shape = onHandle ? Qt::SizeVerCursor : Qt::ArrowCursor;
+        if (cursor().shape() != shape)
+            setCursor(shape);
+    }
+    QGraphicsView::mouseMoveEvent(event);
+}
+
+void ZvTimeTableView::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_lastReleasePos = event->pos();
+    QGraphicsView::mouseReleaseEvent(event);
+}
+
+void ZvTimeTableView::contextMenuEvent(QContextMenuEvent *event)
+{
+    Q_EMIT requestContextMenu(event->pos());
+    event->accept();
+}
+
+void ZvTimeTableView::showContextMenu(QPoint pos)
+{
+    if (m_contextMenu)
+        m_contextMenu->exec(mapToGlobal(pos));
+}
+
+void ZvTimeTableView::onHrozontalScrollBarValueChanged(int)
+{
+    Q_EMIT horizontalScrollBarValueChanged();
+}
+
+} // namespace Zavo
