@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace Zavo {
+
+class ZvChannel;
+
+/// The folder of the channel files below a data folder: which files are channels, in which order
+/// they are shown, and what is written at a first start. It knows files and records, no widget;
+/// what a failure is worth to the user is said by its caller.
+class ChannelFolder final
+{
+public:
+    using Channels = std::vector<std::unique_ptr<ZvChannel>>;
+
+    enum class LoadResult {
+        Loaded,
+        FolderNotCreated, ///< the folder does not exist and could not be made
+        ChannelNotWritten ///< first start: a default channel could not be written
+    };
+
+    /// The channel whose file the basic file is a copy of; always the first tab.
+    static constexpr int BasicChannelId = 0;
+
+    explicit ChannelFolder(const QString &dataDir);
+
+    /// Absolute path of the folder.
+    QString path() const;
+
+    /// Absolute path of the basic file, the copy of the file of the channel with id 0.
+    QString basicFilePath() const;
+
+    /// Names of the channel files with one to five characters for the number, sorted by name. The
+    /// basic file is not among them.
+    QStringList channelFileNames() const;
+
+    /// Reads all channels in the order of their tabs into @p channels; at a first start writes the
+    /// default channels before. @p channels is empty unless the result is Loaded. Files that cannot
+    /// be read are passed over and stay as they are.
+    LoadResult load(Channels *channels) const;
+
+    /// Replaces the basic file beside the file of @p channel by a copy of that file. The old one is
+    /// removed first, so a channel that lives in the basic file itself loses it. Neither step
+    /// reports a failure.
+    static void copyToBasicFile(const ZvChannel &channel);
+
+private:
+    bool exists() const;
+    bool create() const;
+    Channels readChannels(const QStringList &fileNames) const;
+    bool createDefaultChannels(Channels *channels) const;
+    std::unique_ptr<ZvChannel> newDefaultChannel(int number) const;
+    std::unique_ptr<ZvChannel> basicChannelAsNumberZero() const;
+    void applyBasicFile(Channels *channels) const;
+    QString channelFilePath(int number) const;
+
+    QString m_path;
+};
+
+/// Orders @p channels by their index and gives them consecutive indices from 0. Which of two equal
+/// indices comes first depends on the exchanges made on the way.
+void sortChannelsByIndex(ChannelFolder::Channels *channels);
+
+} // namespace Zavo
