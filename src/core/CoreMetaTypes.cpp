@@ -1,4 +1,5 @@
 #include "ZvChannel.h"
+#include "ZvStage.h"
 
 #include <QMap>
 
@@ -18,6 +19,7 @@ void registerMetaTypes()
     qRegisterMetaType<ZvChannel *>("ZvChannel*");
     qRegisterMetaType<const ZvChannel *>("const ZvChannel*");
     qRegisterMetaType<QList<ZvChannel *>>("QList<ZvChannel*>");
+    qRegisterMetaType<ZvStage>("ZvStage");
 }
 } // namespace
 

@@ -1,113 +1,171 @@
 #include "storage/ChannelFile.h"
 
+#include "storage/ChannelFileParser.h"
+#include "storage/ChannelFileWords.h"
 #include "storage/ScheduleOrder.h"
-
-#include <QXmlStreamReader>
-#include <QXmlStreamWriter>
+#include "storage/XmlText.h"
 
 #include <algorithm>
 
 namespace Zavo::ChannelFile {
 
 namespace {
-const QString TimePattern = QStringLiteral("hh:mm:ss.zzz");
-
-QString typeWord(ZvSchedule::ScheduleTypes type)
+bool isIdentical(const ZvTime &a, const ZvTime &b)
 {
-    if (type == ZvSchedule::Default)
-        return QStringLiteral("default");
-    return type == ZvSchedule::Date ? QStringLiteral("date") : QStringLiteral("day");
+    return a.startTime() == b.startTime() && a.endTime() == b.endTime() &&
+           a.stageName() == b.stageName();
 }
 
-ZvSchedule::ScheduleTypes typeOf(const QStringRef &word)
+bool isIdentical(const ZvSchedule &a, const ZvSchedule &b)
 {
-    for (const auto type : {ZvSchedule::Default, ZvSchedule::Date, ZvSchedule::DayOfWeek}) {
-        if (word == typeWord(type))
-            return type;
+    const QList<ZvTime> &bandsA = a.timeList();
+    const QList<ZvTime> &bandsB = b.timeList();
+    return a.hasSameKey(b) && a.defaultStage() == b.defaultStage() &&
+           std::equal(bandsA.cbegin(), bandsA.cend(), bandsB.cbegin(), bandsB.cend(),
+                      [](const ZvTime &x, const ZvTime &y) { return isIdentical(x, y); });
+}
+
+bool isIdentical(const ChannelRecord &a, const ChannelRecord &b)
+{
+    return a.id == b.id && a.index == b.index && a.name == b.name &&
+           std::equal(a.schedules.cbegin(), a.schedules.cend(), b.schedules.cbegin(),
+                      b.schedules.cend(),
+                      [](const ZvSchedule &x, const ZvSchedule &y) { return isIdentical(x, y); });
+}
+
+class Writer
+{
+public:
+    bool run(const ChannelRecord &record)
+    {
+        m_bytes.reserve(estimate(record));
+        m_bytes.append("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Channel version=\"");
+        m_bytes.append(Words::Version.data());
+        appendNumber("\" id=\"", record.id);
+        appendNumber("\" index=\"", record.index);
+        m_bytes.append('"');
+        appendString(" name=\"", record.name);
+        m_bytes.append(record.schedules.isEmpty() ? "/>\n" : ">\n");
+        for (const ZvSchedule &schedule : record.schedules) {
+            if (!appendSchedule(schedule))
+                return false;
+        }
+        if (!record.schedules.isEmpty())
+            m_bytes.append("</Channel>\n");
+        return true;
     }
-    return ZvSchedule::NoType;
-}
 
-bool readSchedule(QXmlStreamReader &xml, ZvSchedule *schedule)
-{
-    const QXmlStreamAttributes attributes = xml.attributes();
-    schedule->setType(typeOf(attributes.value(QStringLiteral("type"))));
-    schedule->setDayOfWeek(
-        static_cast<Weekday::Days>(attributes.value(QStringLiteral("day")).toInt()));
-    schedule->setDate(
-        QDate::fromString(attributes.value(QStringLiteral("date")).toString(), Qt::ISODate));
-    schedule->setDefaultStage(attributes.value(QStringLiteral("defaultStage")).toString());
-    while (xml.readNextStartElement()) {
-        const QXmlStreamAttributes band = xml.attributes();
-        const auto time = [&band](const QString &name) {
-            return QTime::fromString(band.value(name).toString(), TimePattern);
-        };
-        const ZvTime read(time(QStringLiteral("start")), time(QStringLiteral("end")),
-                          band.value(QStringLiteral("stage")).toString());
-        if (!read.startTime().isValid() || !read.endTime().isValid() ||
-            read.endTime() < read.startTime())
+    QByteArray bytes() const { return m_bytes; }
+
+private:
+    static int estimate(const ChannelRecord &record)
+    {
+        constexpr qint64 BytesPerRecord = 100;
+        qint64 records = 2;
+        for (const ZvSchedule &schedule : record.schedules)
+            records += 1 + schedule.timeList().size();
+        return static_cast<int>(qMin<qint64>(records * BytesPerRecord, MaximumBytes));
+    }
+
+    bool appendSchedule(const ZvSchedule &schedule)
+    {
+        const std::string_view type = Words::ofType(schedule.type());
+        if (type.empty())
             return false;
-        schedule->timeList().append(read);
-        xml.skipCurrentElement();
+        m_bytes.append(" <Schedule type=\"").append(type.data()).append('"');
+        if (schedule.type() == ZvSchedule::DayOfWeek)
+            appendNumber(" day=\"", schedule.dayOfWeek()).append('"');
+        if (schedule.type() == ZvSchedule::Date && !appendDate(schedule.date()))
+            return false;
+        appendString(" defaultStage=\"", schedule.defaultStage());
+        const QList<ZvTime> &bands = schedule.timeList();
+        m_bytes.append(bands.isEmpty() ? "/>\n" : ">\n");
+        for (const ZvTime &band : bands) {
+            if (!appendBand(band))
+                return false;
+        }
+        if (!bands.isEmpty())
+            m_bytes.append(" </Schedule>\n");
+        return m_bytes.size() <= MaximumBytes;
     }
-    return ScheduleOrder::isPlaceable(*schedule);
-}
+
+    bool appendBand(const ZvTime &band)
+    {
+        appendString("  <Time stage=\"", band.stageName());
+        m_bytes.append(" start=\"");
+        const bool hasStart = appendTime(band.startTime());
+        m_bytes.append("\" end=\"");
+        const bool hasEnd = appendTime(band.endTime());
+        m_bytes.append("\"/>\n");
+        // Looked at band by band, since the next string could be too much for any memory.
+        return hasStart && hasEnd && m_bytes.size() <= MaximumBytes;
+    }
+
+    QByteArray &appendNumber(const char *before, int number)
+    {
+        return m_bytes.append(before).append(QByteArray::number(number));
+    }
+
+    void appendString(const char *before, const QString &string)
+    {
+        m_bytes.append(before);
+        XmlText::appendEscaped(string, &m_bytes);
+        m_bytes.append('"');
+    }
+
+    bool appendTime(QTime time)
+    {
+        if (!time.isValid())
+            return false;
+        char text[] = "00:00:00.000";
+        Words::putDigits(text + Words::HourAt, 2, time.hour());
+        Words::putDigits(text + Words::MinuteAt, 2, time.minute());
+        Words::putDigits(text + Words::SecondAt, 2, time.second());
+        Words::putDigits(text + Words::MsAt, 3, time.msec());
+        m_bytes.append(text, Words::TimeLength);
+        return true;
+    }
+
+    bool appendDate(const QDate &date)
+    {
+        constexpr int LastYear = 9999;
+        if (!date.isValid() || date.year() < 1 || date.year() > LastYear)
+            return false;
+        char text[] = " date=\"0000-00-00\"";
+        char *const digits = text + sizeof(" date=\"") - 1;
+        Words::putDigits(digits + Words::YearAt, 4, date.year());
+        Words::putDigits(digits + Words::MonthAt, 2, date.month());
+        Words::putDigits(digits + Words::DayAt, 2, date.day());
+        m_bytes.append(text);
+        return true;
+    }
+
+    QByteArray m_bytes;
+};
 } // namespace
 
 bool parse(const QByteArray &bytes, ChannelRecord *record)
 {
-    QXmlStreamReader xml(bytes);
-    if (!xml.readNextStartElement() || xml.name() != QLatin1String("Channel") ||
-        xml.attributes().value(QStringLiteral("version")) != QLatin1String("1"))
+    if (bytes.size() > MaximumBytes)
         return false;
+    ChannelFileParser parser({bytes.constData(), static_cast<size_t>(bytes.size())});
     ChannelRecord read;
-    read.id = xml.attributes().value(QStringLiteral("id")).toInt();
-    read.index = xml.attributes().value(QStringLiteral("index")).toInt();
-    read.name = xml.attributes().value(QStringLiteral("name")).toString();
-    while (xml.readNextStartElement()) {
-        ZvSchedule schedule;
-        if (!readSchedule(xml, &schedule))
-            return false;
-        read.schedules.append(ScheduleOrder::withoutForeignKeys(schedule));
-    }
-    if (xml.hasError())
+    if (!parser.run(&read) || !ScheduleOrder::putInOrder(&read.schedules))
         return false;
-    std::stable_sort(read.schedules.begin(), read.schedules.end(), ScheduleOrder::isBefore);
     *record = read;
     return true;
 }
 
 bool serialize(const ChannelRecord &record, QByteArray *bytes)
 {
-    QXmlStreamWriter xml(bytes);
-    xml.setAutoFormatting(true);
-    xml.setAutoFormattingIndent(1);
-    xml.writeStartDocument();
-    xml.writeStartElement(QStringLiteral("Channel"));
-    xml.writeAttribute(QStringLiteral("version"), QStringLiteral("1"));
-    xml.writeAttribute(QStringLiteral("id"), QString::number(record.id));
-    xml.writeAttribute(QStringLiteral("index"), QString::number(record.index));
-    xml.writeAttribute(QStringLiteral("name"), record.name);
-    for (const ZvSchedule &schedule : record.schedules) {
-        xml.writeStartElement(QStringLiteral("Schedule"));
-        xml.writeAttribute(QStringLiteral("type"), typeWord(schedule.type()));
-        if (schedule.type() == ZvSchedule::DayOfWeek)
-            xml.writeAttribute(QStringLiteral("day"), QString::number(schedule.dayOfWeek()));
-        if (schedule.type() == ZvSchedule::Date)
-            xml.writeAttribute(QStringLiteral("date"), schedule.date().toString(Qt::ISODate));
-        xml.writeAttribute(QStringLiteral("defaultStage"), schedule.defaultStage());
-        const QList<ZvTime> &bands = schedule.timeList();
-        for (const ZvTime &band : bands) {
-            xml.writeStartElement(QStringLiteral("Time"));
-            xml.writeAttribute(QStringLiteral("stage"), band.stageName());
-            xml.writeAttribute(QStringLiteral("start"), band.startTime().toString(TimePattern));
-            xml.writeAttribute(QStringLiteral("end"), band.endTime().toString(TimePattern));
-            xml.writeEndElement();
-        }
-        xml.writeEndElement();
-    }
-    xml.writeEndDocument();
-    return !xml.hasError();
+    ChannelRecord ordered = record;
+    Writer writer;
+    ChannelRecord readBack;
+    if (!ScheduleOrder::putInOrder(&ordered.schedules) || !writer.run(ordered) ||
+        !parse(writer.bytes(), &readBack) || !isIdentical(ordered, readBack))
+        return false;
+    *bytes = writer.bytes();
+    return true;
 }
 
 } // namespace Zavo::ChannelFile

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ZvCoreExport.h"
 #include "ZvSchedule.h"
 
 #include <QByteArray>
@@ -21,12 +22,16 @@ struct ChannelRecord
 namespace ChannelFile {
 
 constexpr int MaximumBytes = 64 * 1024 * 1024;
+constexpr int MaximumSchedules = 50000;
+constexpr int MaximumBands = 20000; // in one schedule
 
-/// False, with @p record untouched, unless the bytes are a channel file in every respect.
-bool parse(const QByteArray &bytes, ChannelRecord *record);
+/// False, with @p record untouched, unless the bytes are a channel file in every respect. Schedules
+/// and bands come in their order, without overlaps.
+ZVCORE_EXPORT bool parse(const QByteArray &bytes, ChannelRecord *record);
 
-/// False if the record holds what parse() would not give back.
-bool serialize(const ChannelRecord &record, QByteArray *bytes);
+/// False, with @p bytes untouched, if parse() would not give back the record to the letter and to
+/// the millisecond.
+ZVCORE_EXPORT bool serialize(const ChannelRecord &record, QByteArray *bytes);
 
 } // namespace ChannelFile
 } // namespace Zavo

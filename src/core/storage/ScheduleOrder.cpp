@@ -170,4 +170,24 @@ QList<ZvTime> storedAgain(const QList<ZvTime> &bands, const QList<ZvTime> &store
     return inOrder(result);
 }
 
+bool putInOrder(QList<ZvSchedule> *schedules)
+{
+    const QList<ZvSchedule> &list = *schedules;
+    if (!std::all_of(list.begin(), list.end(), isPlaceable))
+        return false;
+    if (!std::is_sorted(list.begin(), list.end(), isBefore))
+        std::stable_sort(schedules->begin(), schedules->end(), isBefore);
+    const auto hasEqualKey = [](const ZvSchedule &a, const ZvSchedule &b) {
+        return a.hasSameKey(b);
+    };
+    if (std::adjacent_find(list.begin(), list.end(), hasEqualKey) != list.end())
+        return false;
+    for (int i = 0; i < list.size(); ++i) {
+        const QList<ZvTime> &bands = list.at(i).timeList();
+        if (!isInOrder(bands))
+            (*schedules)[i].setTimeList(inOrder(bands));
+    }
+    return true;
+}
+
 } // namespace Zavo::ScheduleOrder

@@ -27,5 +27,9 @@ QList<ZvTime> inOrder(QList<ZvTime> bands);
 /// each band that is == to it, the others put on the whole second when they are close to it.
 QList<ZvTime> storedAgain(const QList<ZvTime> &bands, const QList<ZvTime> &stored);
 
+/// Puts schedules and their bands in order, and touches neither if they are. False if two schedules
+/// have the same key or one has no place.
+bool putInOrder(QList<ZvSchedule> *schedules);
+
 } // namespace ScheduleOrder
 } // namespace Zavo
