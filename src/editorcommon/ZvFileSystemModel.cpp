@@ -17,6 +17,8 @@
 namespace Zavo {
 
 namespace {
+constexpr int c_longestNameBytes = 255;
+
 QString uriListType()
 {
     return QStringLiteral("text/uri-list");
@@ -25,7 +27,8 @@ QString uriListType()
 bool isFileName(const QString &name)
 {
     return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
-           !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null);
+           !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null) &&
+           QFile::encodeName(name).size() <= c_longestNameBytes;
 }
 
 bool removeFromDisk(const QString &path)
