@@ -1,0 +1,79 @@
+# What is installed and where: the three libraries with their headers and a CMake package, the
+# program with its desktop file and icon.
+
+include(CMakePackageConfigHelpers)
+
+set(zavo_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/zavo)
+set(zavo_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZavoScheduleEditor)
+
+# zavo_install_library(TARGET HEADER...): the headers keep their sub-folder, the generated export
+# header lies beside them.
+function(zavo_install_library target)
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  install(
+    TARGETS ${target}
+    EXPORT ZavoScheduleEditorTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime
+            NAMELINK_COMPONENT Development)
+  get_target_property(source_dir ${target} SOURCE_DIR)
+  get_target_property(binary_dir ${target} BINARY_DIR)
+  foreach(header IN LISTS ARGN)
+    get_filename_component(folder ${header} DIRECTORY)
+    install(
+      FILES ${source_dir}/${header}
+      DESTINATION ${zavo_include_dir}/${folder}
+      COMPONENT Development)
+  endforeach()
+  install(
+    FILES ${binary_dir}/${target}Export.h
+    DESTINATION ${zavo_include_dir}
+    COMPONENT Development)
+endfunction()
+
+zavo_install_library(
+  ZvCore
+  Path.h
+  Weekday.h
+  ZvChannel.h
+  ZvConfig.h
+  ZvSchedule.h
+  ZvSystemInfo.h
+  ZvTime.h)
+zavo_install_library(ZvEditorCommon ZvEditorCommon.h ZvEditorConfig.h ZvEditorUserConfig.h)
+zavo_install_library(ZvScheduleEditor)
+
+configure_package_config_file(
+  ${CMAKE_CURRENT_LIST_DIR}/ZavoScheduleEditorConfig.cmake.in
+  ${CMAKE_CURRENT_BINARY_DIR}/ZavoScheduleEditorConfig.cmake
+  INSTALL_DESTINATION ${zavo_package_dir}
+  NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(
+  ${CMAKE_CURRENT_BINARY_DIR}/ZavoScheduleEditorConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(
+  FILES ${CMAKE_CURRENT_BINARY_DIR}/ZavoScheduleEditorConfig.cmake
+        ${CMAKE_CURRENT_BINARY_DIR}/ZavoScheduleEditorConfigVersion.cmake
+  DESTINATION ${zavo_package_dir}
+  COMPONENT Development)
+install(
+  EXPORT ZavoScheduleEditorTargets
+  NAMESPACE Zavo::
+  DESTINATION ${zavo_package_dir}
+  COMPONENT Development)
+
+if(ZAVO_BUILD_HOST AND TARGET zavo-schedule-editor)
+  file(RELATIVE_PATH zavo_libraries_from_program "/${CMAKE_INSTALL_BINDIR}"
+       "/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(zavo-schedule-editor
+                        PROPERTIES INSTALL_RPATH "$ORIGIN/${zavo_libraries_from_program}")
+  install(TARGETS zavo-schedule-editor RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+                                               COMPONENT Program)
+  install(
+    FILES ${PROJECT_SOURCE_DIR}/packaging/zavo-schedule-editor.desktop
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
+    COMPONENT Program)
+  install(
+    FILES ${PROJECT_SOURCE_DIR}/resources/icons/zavo-schedule-editor.svg
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
+    COMPONENT Program)
+endif()
