@@ -1,0 +1,80 @@
+#include "timetable/WorkingAreaHeader.h"
+
+#include "stages/ZvScheduleDefaultStageWidget.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace Zavo {
+
+namespace {
+
+constexpr int createButtonHeightPx = 24;
+constexpr int gapPx = 9;
+
+const QLatin1String createButtonStyle(
+    "QToolButton{border-style: none;margin: 1px;color: black;}"
+    "QToolButton:hover{background-color: rgb(240, 240, 250);border-style: solid;"
+    "border-color: rgb(190, 190, 200);border-width: 1px;border-radius: 2px;}"
+    "QToolButton:pressed, QToolButton::menu-button{background-color: rgb(204, 204, 255);"
+    "border-style: solid;border-color: rgb( 180, 180, 180);border-width: 1px;"
+    "border-radius: 2px;}"
+    "QToolButton::menu-indicator{width:7px;height:7px;left:1px;top:1px;}"
+    "QToolButton::menu-indicator:pressed{left:0px;top:0px;}");
+
+} // namespace
+
+WorkingAreaHeader::WorkingAreaHeader(QWidget *parent)
+    : QWidget(parent)
+    , m_titleLabel(new QLabel(tr("Schedule of ..."), this))
+    , m_createWidget(newCreateWidget())
+    , m_defaultStageWidget(new ZvScheduleDefaultStageWidget(this))
+{
+    setObjectName(QStringLiteral("HeaderWidget"));
+    m_titleLabel->setTextFormat(Qt::PlainText);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_titleLabel);
+    layout->addWidget(m_createWidget);
+    layout->addSpacerItem(
+        new QSpacerItem(gapPx, gapPx, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    layout->addWidget(m_defaultStageWidget);
+}
+
+QWidget *WorkingAreaHeader::newCreateWidget()
+{
+    auto *widget = new QWidget(this);
+    auto *button = new QToolButton(widget);
+    button->setStyleSheet(createButtonStyle);
+    button->setMinimumHeight(createButtonHeightPx);
+    button->setText(tr("You can create this schedule."));
+    button->setAutoRaise(false);
+    button->setPopupMode(QToolButton::InstantPopup);
+    m_createButton = button;
+
+    auto *layout = new QHBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(new QLabel(tr(" - None. "), widget));
+    layout->addWidget(button);
+    return widget;
+}
+
+void WorkingAreaHeader::setTitle(const QString &title)
+{
+    m_titleLabel->setText(title);
+}
+
+void WorkingAreaHeader::setScheduleEnabled(bool enabled)
+{
+    QFont font = m_titleLabel->font();
+    font.setWeight(enabled ? QFont::Bold : QFont::Normal);
+    font.setItalic(!enabled);
+    m_titleLabel->setFont(font);
+    m_createWidget->setVisible(!enabled);
+    m_defaultStageWidget->setEnabled(enabled);
+}
+
+} // namespace Zavo
