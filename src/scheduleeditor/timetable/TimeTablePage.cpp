@@ -181,6 +181,11 @@ QGraphicsScene *TimeTablePage::takeScene()
     return scene;
 }
 
+ZvTimeTableScene *TimeTablePage::scene() const
+{
+    return m_scene;
+}
+
 ZvTimeTableTimeZoneItem *TimeTablePage::timeZone() const
 {
     return m_scene ? m_scene->timeZoneItem() : nullptr;

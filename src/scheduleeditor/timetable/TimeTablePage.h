@@ -99,7 +99,8 @@ protected:
     ~TimeTablePage() override;
 
     WorkingAreaHeader *header() const { return m_header; }
-    ZvTimeTableScene *scene() const { return m_scene; }
+    /// Null once the scene was given up.
+    ZvTimeTableScene *scene() const;
     /// Null once the scene was given up.
     ZvTimeTableTimeZoneItem *timeZone() const;
 
