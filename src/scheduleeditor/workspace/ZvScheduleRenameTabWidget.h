@@ -21,7 +21,7 @@ public:
 
 Q_SIGNALS:
     /// After each change of the text.
-    void textEdited(QString text, QString initialText);
+    void textEdited(const QString &text, const QString &initialText);
 
     /// Once, when the editing ends. @p object is this editor, which the receiver hides and deletes.
     void editingFinished(QObject *object);

@@ -1,0 +1,285 @@
+#include "workspace/ScheduleRouter.h"
+
+#include "domain/ActionLookup.h"
+#include "domain/ActionNames.h"
+#include "timetable/ZvScheduleWorkingArea.h"
+#include "workspace/ChannelSaver.h"
+
+#include <QAction>
+#include <QDebug>
+#include <QGraphicsScene>
+#include <QUndoGroup>
+
+namespace Zavo {
+
+namespace {
+
+void switchTo(ZvScheduleWorkingArea *area, const ZvScheduleBasicInfo &info)
+{
+    switch (info.type()) {
+    case ZvSchedule::Default:
+        area->switchToDefaultSchedule();
+        break;
+    case ZvSchedule::Date:
+        area->switchToDateSchedule(info.date());
+        break;
+    case ZvSchedule::DayOfWeek:
+        area->switchToWeekDaySchedule(static_cast<Qt::DayOfWeek>(info.dayOfWeek()));
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace
+
+ScheduleRouter::ScheduleRouter(QWidget *parent)
+    : QWidget(parent)
+    , m_undoGroup(new QUndoGroup(this))
+{
+}
+
+void ScheduleRouter::setActionList(const QList<QAction *> &actions)
+{
+    m_actionList.clear();
+    for (QAction *action : actions)
+        m_actionList.append(action);
+}
+
+QList<QAction *> ScheduleRouter::actionList() const
+{
+    QList<QAction *> actions;
+    for (const QPointer<QAction> &action : m_actionList) {
+        if (action)
+            actions.append(action);
+    }
+    return actions;
+}
+
+QList<QAction *> ScheduleRouter::findActions(const QStringList &names) const
+{
+    return findActionsByName(actionList(), names);
+}
+
+void ScheduleRouter::connectWorkingArea(ZvScheduleWorkingArea *area)
+{
+    struct Wire
+    {
+        const char *signal;
+        const char *slot;
+    };
+    static const Wire wires[] = {
+        {SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)),
+            SLOT(onTimeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*))},
+            {SIGNAL(timeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)),
+                SLOT(onTimeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*))},
+                {SIGNAL(scheduleCreated(QList<int>,ZvScheduleBasicInfo)),
+                    SLOT(onScheduleCreated(QList<int>,ZvScheduleBasicInfo))},
+                    {SIGNAL(scheduleRemoved(QList<ZvScheduleBasicInfo>,ZvScheduleBasicInfo)),
+                        SLOT(onScheduleRemoved(QList<ZvScheduleBasicInfo>,ZvScheduleBasicInfo))},
+                        {SIGNAL(currentScheuleEnabledChanged(bool)),
+                            SLOT(onCurrentScheduleEnabledChanged(bool))},
+                            {SIGNAL(scheduleStageCountChanged(ZvScheduleBasicInfo,int)),
+                                    SLOT(onScheduleStageCountChanged(ZvScheduleBasicInfo,int))},
+                                    {SIGNAL(currentScheduleInfoChanged(ZvScheduleBasicInfo)),
+                                        SLOT(onCurrentScheduleInfoChanged(ZvScheduleBasicInfo))},
+                                        {SIGNAL(activated()), SLOT(onWorkingAreaActivated())},
+                                            {SIGNAL(requestCreateCurrentSchedule()),
+                                                    SLOT(createScheduleByCurrentInfo())},
+                                                    {SIGNAL(graphicsScenePurged(QGraphicsScene*)),
+                                                            SLOT(onGraphicsScenePurged(QGraphicsScene*))},
+                                                    };
+    for (const Wire &wire : wires)
+        connect(area, wire.signal, this, wire.slot);
+}
+
+void ScheduleRouter::mousePressEvent(QMouseEvent *event)
+{
+    Q_EMIT activated(this);
+    QWidget::mousePressEvent(event);
+}
+
+void ScheduleRouter::showWorkingArea(ZvScheduleWorkingArea *area)
+{
+    m_undoGroup->setActiveStack(area->undoStack());
+    Q_EMIT timeTableTimeItemsMoved(area->selectedTimeItems(), area);
+    ZvScheduleBasicInfo info;
+    Q_EMIT requestCurrentScheduleType(&info);
+    switchTo(area, info);
+}
+
+// Commands to the page of the current tab
+
+void ScheduleRouter::switchToDefaultSchedule()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->switchToDefaultSchedule();
+}
+
+void ScheduleRouter::switchToDayOfWeekSchedule(Qt::DayOfWeek day)
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->switchToWeekDaySchedule(day);
+}
+
+void ScheduleRouter::switchToDateSchedule(const QDate &date)
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->switchToDateSchedule(date);
+}
+
+void ScheduleRouter::createScheduleByCurrentInfo()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->createScheduleByCurrentInfo();
+}
+
+void ScheduleRouter::removeScheduleByCurrentInfo()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->removeScheduleByCurrentInfo();
+}
+
+void ScheduleRouter::setDefaultStageToCurrentSchedule(const QString &name)
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->setDefaultStageName(name);
+}
+
+void ScheduleRouter::onItemPropertyChangedByPropertyWidget()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->onMousePressingMoved();
+}
+
+void ScheduleRouter::removeSelectedItems()
+{
+    deleteSelectedItems();
+}
+
+void ScheduleRouter::storeCurrentSchedule()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        ChannelSaver::storeTable(area);
+}
+
+void ScheduleRouter::isCurrentScheduleEnabled(bool *enabled)
+{
+    if (!enabled)
+        return;
+    const ZvScheduleWorkingArea *area = currentWorkingArea();
+    *enabled = area && area->isCurrentScheduleEnabled();
+}
+
+void ScheduleRouter::isCurrentWidgetActivated(bool *activated)
+{
+    Q_EMIT requestIsActivatedWidget(this, activated);
+}
+
+// The selection of the current page
+
+ZvScheduleCommonInterface::SelectedType ScheduleRouter::hasSelectedItems() const
+{
+    const ZvScheduleWorkingArea *area = currentWorkingArea();
+    return area ? area->hasSelectedItems() : SelectedType();
+}
+
+void ScheduleRouter::deleteSelectedItems()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->deleteSelectedItems();
+}
+
+bool ScheduleRouter::copySelectedItems()
+{
+    return false;
+}
+
+bool ScheduleRouter::cutSelectedItems()
+{
+    return false;
+}
+
+bool ScheduleRouter::isPastingPossible() const
+{
+    return false;
+}
+
+bool ScheduleRouter::pasteItems()
+{
+    return false;
+}
+
+void ScheduleRouter::selectAllItems()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->selectAllItems();
+}
+
+void ScheduleRouter::deselectAllItems()
+{
+    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+        area->deselectAllItems();
+}
+
+// Reports of the pages
+
+// A schedule can be created only where there is none, and the default schedule cannot be deleted.
+void ScheduleRouter::onCurrentScheduleEnabledChanged(bool enabled)
+{
+    const ZvScheduleWorkingArea *area = currentWorkingArea();
+    if (!area)
+        return;
+    const bool isDefault = area->currentScheduleInfo().type() == ZvSchedule::Default;
+    const auto setEnabled = [this](const char *name, bool on) {
+        for (QAction *action : findActions({QLatin1String(name)}))
+            action->setEnabled(on);
+    };
+    setEnabled(ActionName::CreateSchedule, !enabled);
+    setEnabled(ActionName::DeleteSchedule, enabled && !isDefault);
+}
+
+void ScheduleRouter::onTimeTableTimeItemHasNotSelected(ZvScheduleWorkingArea *area)
+{
+    Q_EMIT timeTableTimeItemHasNotSelected(area);
+}
+
+void ScheduleRouter::onTimeTableTimeItemsMoved(const QList<ZvTimeTableTimeItem *> &items,
+                                               ZvScheduleWorkingArea *area)
+{
+    Q_EMIT timeTableTimeItemsMoved(items, area);
+}
+
+void ScheduleRouter::onScheduleCreated(const QList<int> &list, const ZvScheduleBasicInfo &curInfo)
+{
+    Q_EMIT scheduleCreated(list, curInfo);
+}
+
+void ScheduleRouter::onScheduleRemoved(const QList<ZvScheduleBasicInfo> &list,
+                                       const ZvScheduleBasicInfo &curInfo)
+{
+    Q_EMIT scheduleRemoved(list, curInfo);
+}
+
+void ScheduleRouter::onScheduleStageCountChanged(const ZvScheduleBasicInfo &info, int stageCount)
+{
+    Q_EMIT scheduleStageCountChanged(info, stageCount);
+}
+
+void ScheduleRouter::onCurrentScheduleInfoChanged(const ZvScheduleBasicInfo &info)
+{
+    Q_EMIT currentScheduleInfoChanged(info);
+}
+
+void ScheduleRouter::onWorkingAreaActivated()
+{
+    Q_EMIT activated(this);
+}
+
+void ScheduleRouter::onGraphicsScenePurged(QGraphicsScene *scene)
+{
+    qDebug() << staticMetaObject.className() << scene;
+    Q_EMIT graphicsScenePurged(scene);
+}
+
+} // namespace Zavo

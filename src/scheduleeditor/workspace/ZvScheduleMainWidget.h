@@ -1,0 +1,95 @@
+#pragma once
+
+#include "workspace/ScheduleRouter.h"
+
+#include <QIcon>
+#include <QMap>
+
+class QMenu;
+
+namespace Zavo {
+
+class ScheduleToolBar;
+class ZvChannel;
+class ZvScheduleTabWidget;
+
+/// The central widget: a tool bar above one tab a channel. It makes the tabs from the channel files
+/// and saves them; what reaches the schedule of the current tab is its base class's. The editor
+/// creates it and hands it the shared actions and the edit menu before there are tabs; neither is
+/// owned.
+class ZvScheduleMainWidget final : public ScheduleRouter
+{
+    Q_OBJECT
+
+public:
+    explicit ZvScheduleMainWidget(QWidget *parent = nullptr);
+    ~ZvScheduleMainWidget() override;
+
+    /// Builds the content. Called once, after setActionList().
+    void setupWidgets();
+
+    /// The page of the current tab, or null.
+    ZvScheduleWorkingArea *currentWorkingArea() const override;
+
+    /// The menu that every page shows as its context menu.
+    void setEditMenu(QMenu *menu);
+
+    /// Asks about every modified channel, in ascending id, and saves those that are to be.
+    /// @p reason is 1 for closing and 2 for uploading. False if the user cancelled, which only
+    /// uploading offers; what was saved by then stays saved.
+    bool confirmSaveChannels(int reason);
+
+    /// Writes the file of @p channel. False, after a message if @p showError, if that failed; false
+    /// for null.
+    bool saveChannel(ZvChannel *channel, bool showError);
+
+    /// The scenes of all pages in the order of the tabs, given up by their pages. The caller owns
+    /// them.
+    QList<QGraphicsScene *> takeGraphicsScenes();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+public Q_SLOTS:
+    /// Gives @p channel a page and a tab at the end. The page takes ownership.
+    void addChannel(ZvChannel *channel);
+    void saveCurrentChannel();
+    void saveAllChannel();
+
+    /// Renews the basic file from the file of @p channel.
+    void saveAsBasicChannelFile(ZvChannel *channel);
+
+    void activeTab(int index);
+    void activeTab(QWidget *widget);
+
+Q_SIGNALS:
+    /// The user or a failed start wants the editor to close. The receiver deletes this widget, so
+    /// the connection is queued.
+    void requestClose();
+
+    /// After all tabs of the start have been created. The pages own the channels. Queued, so that
+    /// createTabs() has returned.
+    void tabsCreated(const QList<ZvChannel *> &channelList);
+
+    /// Another tab is current, whose channel is @p channel.
+    void currentChannelChanged(const ZvChannel *channel);
+
+private Q_SLOTS:
+    void createTabs();
+    void closeScheduleEditor();
+    void onTabCurrentIndexChanged(int index);
+
+private:
+    ScheduleToolBar *createToolBar();
+    ZvScheduleTabWidget *createTabWidget();
+    void addChannels(const QList<ZvChannel *> &channels);
+    void showCritical(const QString &title, const QString &text);
+
+    ZvScheduleTabWidget *m_tabWidget = nullptr;
+    ScheduleToolBar *m_toolBar = nullptr;
+    QPointer<QMenu> m_editMenu;
+    QMap<int, ZvScheduleWorkingArea *> m_areaById;
+    QIcon m_channelIcon;
+    bool m_tabsCreated = false;
+};
+
+} // namespace Zavo

@@ -1,0 +1,158 @@
+#include "workspace/ZvScheduleTabWidget.h"
+
+#include "timetable/ZvScheduleWorkingArea.h"
+#include "workspace/ZvScheduleRenameTabWidget.h"
+#include "workspace/ZvTabBar.h"
+
+#include <QMouseEvent>
+#include <QTimer>
+#include <QToolTip>
+
+namespace Zavo {
+
+ZvScheduleTabWidget::ZvScheduleTabWidget(QWidget *parent)
+    : QTabWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    auto *bar = new ZvTabBar(this);
+    bar->installEventFilter(this);
+    bar->setMouseTracking(true);
+    setTabBar(bar);
+    connect(this, SIGNAL(requestEditTabName()), this,
+                         SLOT(editTabNameRequested()), Qt::QueuedConnection);
+    connect(this, SIGNAL(requestCorrectFirstTab(int, int)), this,
+                         SLOT(correctFirstTab(int, int)), Qt::QueuedConnection);
+}
+
+QRect ZvScheduleTabWidget::currentTabRect() const
+{
+    return tabBar()->tabRect(tabBar()->currentIndex());
+}
+
+void ZvScheduleTabWidget::moveTab(int from, int to)
+{
+    tabBar()->moveTab(from, to);
+}
+
+bool ZvScheduleTabWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != tabBar())
+        return QTabWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonDblClick:
+        Q_EMIT requestEditTabName();
+        break;
+    case QEvent::KeyPress:
+        if (static_cast<const QKeyEvent *>(event)->key() == Qt::Key_F2)
+            Q_EMIT requestEditTabName();
+        break;
+    case QEvent::MouseButtonPress:
+        pressTabBar(*static_cast<const QMouseEvent *>(event));
+        break;
+    case QEvent::MouseMove:
+        if (m_pressed && !mayDragTo(*static_cast<const QMouseEvent *>(event))) {
+            event->accept();
+            QTimer::singleShot(0, this, SLOT(showNotTabMovedToolTip()));
+            return true;
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+        releaseTabBar();
+        break;
+    default:
+        break;
+    }
+    return QTabWidget::eventFilter(watched, event);
+}
+
+void ZvScheduleTabWidget::pressTabBar(const QMouseEvent &event)
+{
+    m_firstTabRect = tabBar()->tabRect(0);
+    m_pressedIndex = tabBar()->tabAt(event.pos());
+    m_dragOffset = tabBar()->tabRect(m_pressedIndex).left() - event.x();
+    m_pressed = true;
+}
+
+// The dragged tab stops when its left edge reaches the middle of the first tab.
+bool ZvScheduleTabWidget::mayDragTo(const QMouseEvent &event) const
+{
+    const int left = event.x() + m_dragOffset;
+    return m_pressedIndex != 0 && left > m_firstTabRect.center().x() + 1;
+}
+
+// The bar has moved the current tab along with the drag.
+void ZvScheduleTabWidget::releaseTabBar()
+{
+    onTabMoved(m_pressedIndex, currentIndex());
+    m_pressedIndex = 0;
+    m_pressed = false;
+    m_dragOffset = 0;
+}
+
+void ZvScheduleTabWidget::onTabMoved(int from, int to)
+{
+    if (m_movingTabs)
+        return;
+    m_movingTabs = true;
+    if (from != to) {
+        const int step = from < to ? 1 : -1;
+        for (int i = from; i != to + step; i += step) {
+            if (auto *area = qobject_cast<ZvScheduleWorkingArea *>(widget(i)))
+                area->setTabIndex(i);
+        }
+        Q_EMIT tabMoved(from, to);
+    }
+    m_movingTabs = false;
+}
+
+void ZvScheduleTabWidget::showNotTabMovedToolTip()
+{
+    const QString text =
+        tr("<span style=\"font-weight:bold;\">You can not move the first tab.</span>");
+    QToolTip::showText(mapToGlobal(rect().topLeft()), text, this);
+}
+
+void ZvScheduleTabWidget::correctFirstTab(int curIndex, int orgIndex)
+{
+    if (curIndex == orgIndex)
+        return;
+    for (int i = curIndex; i < orgIndex; ++i)
+        moveTab(i, i + 1);
+    for (int i = curIndex; i > orgIndex && i >= 1; --i)
+        moveTab(i, i - 1);
+    showNotTabMovedToolTip();
+}
+
+void ZvScheduleTabWidget::editTabNameRequested()
+{
+    const int index = tabBar()->currentIndex();
+    if (index < 0)
+        return;
+    const QRect rect = tabBar()->tabRect(index);
+    const QString title = tabBar()->tabText(index);
+    auto *editor = new ZvScheduleRenameTabWidget(this);
+    editor->move(rect.topLeft());
+    editor->resize(rect.size());
+    editor->setInitialText(title);
+    editor->setToolTip(title);
+    connect(editor, SIGNAL(editingFinished(QObject *)), this,
+                           SLOT(editingTabNameFinished(QObject *)));
+    editor->show();
+    editor->selectAll();
+    editor->setFocus();
+}
+
+void ZvScheduleTabWidget::editingTabNameFinished(QObject *object)
+{
+    if (!object || object->metaObject() != &ZvScheduleRenameTabWidget::staticMetaObject)
+        return;
+    auto *editor = static_cast<ZvScheduleRenameTabWidget *>(object);
+    const QString text = editor->text();
+    const QString initialText = editor->initialText();
+    editor->hide();
+    editor->deleteLater();
+    if (!text.isEmpty() && text != initialText)
+        Q_EMIT requestChangeTabName(currentIndex(), text);
+}
+
+} // namespace Zavo
