@@ -1,0 +1,145 @@
+#include "editor/MainMenu.h"
+
+#include "domain/ActionNames.h"
+#include "editor/ActionRegistry.h"
+
+#include <QCoreApplication>
+#include <QKeySequence>
+
+namespace Zavo {
+
+namespace {
+
+constexpr char Context[] = "Zavo::ZvScheduleEditor";
+
+struct Shortcut
+{
+    QKeySequence::StandardKey standard = QKeySequence::UnknownKey;
+    const char *keys = nullptr;
+};
+
+constexpr Shortcut NoKeys{};
+
+constexpr Shortcut standard(QKeySequence::StandardKey key)
+{
+    return {key, nullptr};
+}
+
+constexpr Shortcut keys(const char *sequence)
+{
+    return {QKeySequence::UnknownKey, sequence};
+}
+
+// A row without a text is a separator.
+struct ActionRow
+{
+    const char *name = nullptr;
+    const char *text = nullptr;
+    Shortcut shortcut;
+    const char *icon = nullptr;
+    const char *slot = nullptr;
+};
+
+constexpr ActionRow Separator{};
+
+constexpr ActionRow FileRows[] = {
+    {ActionName::SaveChannel, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Save Channel"),
+     standard(QKeySequence::Save), ":/images/save.svg", "action_save_channel()"},
+    {ActionName::SaveAllChannel, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "Save &All Channels"),
+     keys("Ctrl+Shift+S"), ":/images/save_all.svg", "action_save_all_channel()"},
+    Separator,
+    {nullptr, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Close Schedule Editor"), keys("Ctrl+W"),
+     nullptr, "close()"},
+    Separator,
+    {nullptr, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Quit"), keys("Ctrl+Q"), nullptr,
+     "quit()"},
+};
+
+constexpr ActionRow EditRows[] = {
+    {ActionName::Undo, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Undo"),
+     standard(QKeySequence::Undo), ":/images/undo.svg", "action_undo()"},
+    {ActionName::Redo, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Redo"),
+     standard(QKeySequence::Redo), ":/images/redo.svg", "action_redo()"},
+    Separator,
+    {ActionName::SelectAll, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "Select &All"),
+     standard(QKeySequence::SelectAll), nullptr, "action_selectAll()"},
+    {ActionName::DeselectAll, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "Deselect A&ll"),
+     keys("Ctrl+Shift+A"), nullptr, "action_deselectAll()"},
+};
+
+constexpr ActionRow ChannelRows[] = {
+    {ActionName::Upload, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Upload..."), NoKeys,
+     ":/images/upload.svg", "action_upload()"},
+    {ActionName::OutputChannelData,
+     QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Output Channel Data..."), NoKeys,
+     ":/images/output_channel.svg", "action_output_channel_data()"},
+    Separator,
+    {ActionName::ChannelConfiguration,
+     QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "Channel Configura&tion..."), NoKeys, nullptr,
+     "action_channel_configuration()"},
+};
+
+struct MenuRow
+{
+    const char *name;
+    const char *title;
+    const ActionRow *rows;
+    int rowCount;
+};
+
+template<int N>
+constexpr MenuRow menuOf(const char *name, const char *title, const ActionRow (&rows)[N])
+{
+    return {name, title, rows, N};
+}
+
+// The file menu has no object name, so that nobody finds it.
+constexpr MenuRow Menus[] = {
+    menuOf(nullptr, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&File"), FileRows),
+    menuOf(MenuName::Edit, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Edit"), EditRows),
+    menuOf(MenuName::Channel, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Channel"), ChannelRows),
+};
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate(Context, text);
+}
+
+void setShortcut(QAction *action, const Shortcut &shortcut)
+{
+    if (shortcut.keys)
+        action->setShortcut(QKeySequence(QLatin1String(shortcut.keys)));
+    else if (shortcut.standard != QKeySequence::UnknownKey)
+        action->setShortcuts(shortcut.standard);
+}
+
+void addRow(QMenu *menu, const ActionRow &row, ActionRegistry *registry, QObject *receiver)
+{
+    if (!row.text) {
+        menu->addSeparator();
+        return;
+    }
+    QAction *action = menu->addAction(translated(row.text));
+    action->setObjectName(QLatin1String(row.name));
+    registry->addAction(action);
+    if (row.icon)
+        action->setIcon(QIcon(QLatin1String(row.icon)));
+    setShortcut(action, row.shortcut);
+    const QByteArray slot = QByteArray::number(QSLOT_CODE) + row.slot;
+    QObject::connect(action, SIGNAL(triggered()), receiver, slot.constData());
+}
+
+} // namespace
+
+void createMainMenu(ActionRegistry *registry, QObject *receiver)
+{
+    for (const MenuRow &menuRow : Menus) {
+        auto *menu = new QMenu(translated(menuRow.title));
+        menu->setObjectName(QLatin1String(menuRow.name));
+        for (int i = 0; i < menuRow.rowCount; ++i)
+            addRow(menu, menuRow.rows[i], registry, receiver);
+        registry->addMenu(menu);
+    }
+}
+
+} // namespace Zavo

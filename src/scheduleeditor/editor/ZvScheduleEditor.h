@@ -1,0 +1,171 @@
+#pragma once
+
+#include "ZvScheduleEditorExport.h"
+#include "domain/ZvScheduleCommonInterface.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <memory>
+
+class QAction;
+class QGraphicsScene;
+class QMainWindow;
+class QMenu;
+class QTimer;
+
+namespace Zavo {
+
+class ActionRegistry;
+class ZvChannel;
+class ZvScheduleBasicInfo;
+class ZvScheduleMainWidget;
+
+/// The schedule editor as a host sees it. It fills a window of the host with its widgets, hands out
+/// menus to install, and asks by signals for whatever lies outside of it.
+///
+/// A host constructs it, installs menu(), connects the request signals and closed(), and calls
+/// exec(). It owns its menus and widgets, not the window. All on the GUI thread.
+class ZVSCHEDULEEDITOR_EXPORT ZvScheduleEditor final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Builds menus and widgets; the content of @p window is not touched. The window becomes the
+    /// parent. A null window is told by exec().
+    explicit ZvScheduleEditor(QMainWindow *window);
+
+    /// Deletes the menus that were not taken, but for the help menu; and the widgets, if the editor
+    /// was not closed.
+    ~ZvScheduleEditor() override;
+
+    /// Fills the window and starts the creation of the tabs from the event loop. False if there is
+    /// no window or the editor was closed; the reason is in hasError().
+    bool exec();
+
+    /// Always true. @p message, if not null, receives the last error, empty if there was none.
+    bool hasError(QString *message) const;
+
+    /// The action of this object name, or null.
+    QAction *getAction(const QString &name) const;
+
+    /// For each name, in their order, the first action of that name; a name without one adds
+    /// nothing.
+    QList<QAction *> getActions(const QStringList &names) const;
+
+    /// The actions that the tool bar shares with the menus.
+    QList<QAction *> getMainWidgetActions() const;
+
+    /// The menu of this object name, or null.
+    QMenu *getMenu(const QString &name) const;
+
+    /// All menus, in the order in which the host shows them.
+    QList<QMenu *> menu() const;
+
+    /// Enters a menu before the channel menu, and a help menu at the end, unless it is there
+    /// already. The calendar menu is owned from then on; the help menu stays the host's.
+    void setCalendarMenu(QMenu *menu);
+    void setHelpMenu(QMenu *menu);
+
+    /// Takes the menu out of menu(); the caller owns it. Null if there is none.
+    QMenu *takeCalendarMenu();
+    QMenu *takeHelpMenu();
+
+    /// Deletes a menu with all its actions and submenus. Nothing happens for null.
+    static void deleteMenuAndAction(QMenu *menu);
+
+    /// The widget that the edit commands act on, or null; and the same widget as what it offers,
+    /// null if it offers nothing.
+    QWidget *activatedWidget() const;
+    ZvScheduleCommonInterface *activatedScheudleWidget() const;
+
+    /// What the activated widget allows; nothing if there is none.
+    ZvScheduleCommonInterface::SelectedType hasSelectedItems() const;
+    bool isPastingPossible() const;
+
+public Q_SLOTS:
+    /// Asks about modified channels, gives up all widgets and scenes and emits closed(). A second
+    /// call does nothing.
+    void close();
+
+    /// Asks the host to quit, which normally answers by close().
+    void quit();
+
+    void showVersionInformation();
+    void showConfiguration();
+    void showChannelConfiguration();
+    void showChannelExporter();
+    void showUploadManager();
+
+    void setActivatedWidget(QWidget *activatedWidget);
+
+    /// Writes through @p activated, if it is not null, whether @p widget is the activated one.
+    void isActivatedWidgetRequested(const QWidget *widget, bool *activated) const;
+
+    void action_save_channel();
+    void action_save_all_channel();
+    void action_undo();
+    void action_redo();
+    void action_cut();
+    void action_copy();
+    void action_paste();
+    void action_delete();
+    void action_selectAll();
+    void action_deselectAll();
+    void action_upload();
+    void action_output_channel_data();
+    void action_channel_configuration();
+
+    void onCurrentChannelChanged(const ZvChannel *channel);
+
+Q_SIGNALS:
+    /// The editor has finished; the last that the host hears of it.
+    void closed();
+
+    /// The user wants to quit. Nothing has been asked or stored.
+    void requestQuit();
+    void requestShowVersionInformation();
+    void requestShowConfiguration();
+
+    /// The user wants to upload, and has been asked about unsaved channels.
+    void requestShowUploadManager();
+    void requestShowChannelConfiguration();
+
+    /// The user wants to export the channel whose file is @p channelFilePath.
+    void requestShowChannelExporter(const QString &channelFilePath);
+    void requestRestoreDockWidgetSetting(bool useDefault = false);
+
+    /// Scenes whose pages are gone. The host owns them from now on and deletes them.
+    void graphicsScenePurged(QGraphicsScene *scene);
+    void graphicsScenePurged(const QList<QGraphicsScene *> &sceneList);
+
+private Q_SLOTS:
+    void onMenuEditAboutToShow();
+    void onGraphicsScenePurged(QGraphicsScene *scene);
+    void startScheduleValidator(const QList<ZvChannel *> &channelList);
+    void answerCurrentScheduleType(ZvScheduleBasicInfo *info) const;
+
+private:
+    bool setup();
+    void setupMainMenu();
+    void setupMainWidget();
+    void connectMainWidget();
+    void attatchWidgetsToMainWindow();
+    void deleteWidgets();
+    QString errorMessage() const;
+    void setErrorMessage(const QString &message);
+
+    QMainWindow *m_mainWindow = nullptr;
+    std::unique_ptr<ActionRegistry> m_registry;
+    QString m_errorText;
+    QPointer<ZvScheduleMainWidget> m_mainWidget;
+    QPointer<QWidget> m_activatedWidget;
+    QTimer *m_createTabsTimer = nullptr;
+    QTimer *m_editActionsTimer = nullptr;
+    bool m_saveOnClose = true;
+    bool m_closed = false;
+};
+
+} // namespace Zavo
