@@ -1,8 +1,8 @@
 #include "ZvStagePainter.h"
 
 #include "ZvStage.h"
+#include "ZvStageText.h"
 
-#include <QFont>
 #include <QPainter>
 
 #include <cmath>
@@ -52,27 +52,13 @@ void paintPicture(QPainter &painter, const ZvStageItem &item)
     painter.restore();
 }
 
-void paintText(QPainter &painter, const ZvStageItem &item)
-{
-    QFont font = painter.font();
-    font.setPixelSize(qMax(1, item.textSize));
-    font.setBold(item.bold);
-    // Unhinted text breaks its lines in the same places at every size of the preview.
-    font.setHintingPreference(QFont::PreferNoHinting);
-    painter.setFont(font);
-    painter.setPen(item.color);
-    const int alignment = static_cast<int>(item.alignment & Qt::AlignHorizontal_Mask);
-    painter.drawText(item.box, alignment | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextWordWrap,
-                     item.text);
-}
-
 void paintItem(QPainter &painter, const ZvStageItem &item)
 {
     switch (item.kind) {
     case ZvStageItem::Rectangle:
         return paintRectangle(painter, item);
     case ZvStageItem::Text:
-        return paintText(painter, item);
+        return ZvStageText::paint(painter, item);
     case ZvStageItem::Picture:
         return paintPicture(painter, item);
     }
@@ -93,7 +79,7 @@ QImage ZvStagePainter::paint(const ZvStage &stage, const QSize &size)
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::black);
     QPainter painter(&image);
-    painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(image.rect(), stage.background());
     painter.scale(double(size.width()) / stage.size().width(),
                   double(size.height()) / stage.size().height());

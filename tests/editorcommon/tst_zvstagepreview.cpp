@@ -24,27 +24,52 @@ QImage shot(QWidget &widget)
     return image;
 }
 
+template<typename Visit>
+void visitPixels(const QImage &image, Visit visit)
+{
+    const QImage plain = image.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < plain.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(plain.constScanLine(y));
+        for (int x = 0; x < plain.width(); ++x)
+            visit(x, y, line[x]);
+    }
+}
+
 /// The smallest rectangle that holds every pixel of this colour.
 QRect extent(const QImage &image, const QColor &color)
 {
-    QRect found;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) == color)
-                found |= QRect(x, y, 1, 1);
-        }
-    }
-    return found;
+    int left = image.width();
+    int top = image.height();
+    int right = -1;
+    int bottom = -1;
+    visitPixels(image, [&](int x, int y, QRgb pixel) {
+        if (pixel != color.rgb())
+            return;
+        left = qMin(left, x);
+        right = qMax(right, x);
+        top = qMin(top, y);
+        bottom = qMax(bottom, y);
+    });
+    return {QPoint(left, top), QPoint(right, bottom)};
 }
 
 int countOf(const QImage &image, const QColor &color)
 {
     int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            count += image.pixelColor(x, y) == color;
-    }
+    visitPixels(image, [&](int, int, QRgb pixel) { count += pixel == color.rgb(); });
     return count;
+}
+
+/// The smallest rectangle that holds what is light on a dark picture.
+QRect lightExtent(const QImage &image)
+{
+    QImage mask(image.size(), QImage::Format_RGB32);
+    mask.fill(Qt::black);
+    visitPixels(image, [&](int x, int y, QRgb pixel) {
+        if (qGray(pixel) > 100)
+            mask.setPixel(x, y, white.rgb());
+    });
+    return extent(mask, white);
 }
 } // namespace
 
@@ -71,6 +96,9 @@ private Q_SLOTS:
     void missingPictureLeavesTheRest();
     void textStandsWhereItIsAligned_data();
     void textStandsWhereItIsAligned();
+    void boldTextIsBolder();
+    void textIsCutOffAtItsBox();
+    void linesBreakAlikeAtEverySize();
     void extremeStagesAreShown_data();
     void extremeStagesAreShown();
     void clearShowsNothing();
@@ -303,18 +331,74 @@ void tst_ZvStagePreview::textStandsWhereItIsAligned()
                                           "bold=\"true\">%2</Text>\n")
                                .arg(align, text)));
     const QImage image = shot(preview);
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y).lightness() > 100)
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
+    const QRect ink = lightExtent(image);
     QVERIFY(!ink.isEmpty());
     QCOMPARE(ink.center().x() * 3 / image.width(), third);
     QCOMPARE(ink.center().y() * 3 / image.height(), 1);
     QVERIFY(ink.height() > image.height() / 5);
     QVERIFY(ink.height() < image.height() / 2);
+}
+
+void tst_ZvStagePreview::boldTextIsBolder()
+{
+    const auto inkOf = [this](const QString &bold) {
+        ZvStagePreview preview;
+        preview.resize(300, 100);
+        preview.setStage(
+            stage(QStringLiteral("width=\"1500\" height=\"500\" background=\"#000000\""),
+                  QStringLiteral("<Text x=\"0\" y=\"0\" width=\"1500\" height=\"500\" "
+                                 "size=\"200\" color=\"#ffffff\" bold=\"%1\">Hall</Text>\n")
+                      .arg(bold)));
+        qint64 sum = 0;
+        visitPixels(shot(preview), [&sum](int, int, QRgb pixel) { sum += qGray(pixel); });
+        return sum;
+    };
+    const qint64 plain = inkOf(QStringLiteral("false"));
+    const qint64 bold = inkOf(QStringLiteral("true"));
+    QVERIFY(plain > 0);
+    QVERIFY(bold > plain * 11 / 10);
+    QVERIFY(bold < plain * 3);
+}
+
+void tst_ZvStagePreview::textIsCutOffAtItsBox()
+{
+    ZvStagePreview preview;
+    preview.resize(100, 100);
+    preview.setStage(stage(QStringLiteral("width=\"100\" height=\"100\" background=\"#000000\""),
+                           QStringLiteral("<Text x=\"30\" y=\"40\" width=\"40\" height=\"20\" "
+                                          "size=\"60\" color=\"#ffffff\">%1</Text>\n")
+                               .arg(QStringLiteral("MWMW MWMW\nMW").repeated(20))));
+    const int ratio = qRound(preview.devicePixelRatioF());
+    const QRect ink = lightExtent(shot(preview));
+    QVERIFY(ink.isValid());
+    QVERIFY(QRect(30 * ratio, 40 * ratio, 40 * ratio, 20 * ratio).contains(ink));
+}
+
+void tst_ZvStagePreview::linesBreakAlikeAtEverySize()
+{
+    const QString text = QStringLiteral("one two three four five six seven eight nine ten");
+    const ZvStage shown =
+        stage(QStringLiteral("width=\"1600\" height=\"1600\" background=\"#000000\""),
+              QStringLiteral("<Text x=\"0\" y=\"0\" width=\"1600\" height=\"1600\" "
+                             "size=\"200\" color=\"#ffffff\">%1</Text>\n")
+                  .arg(text));
+    QRectF reference;
+    for (const int width : {1600, 801, 399, 203, 160}) {
+        ZvStagePreview preview;
+        preview.resize(width, width);
+        preview.setStage(shown);
+        const QImage image = shot(preview);
+        const QRect ink = lightExtent(image);
+        const double scale = 1600.0 / image.width();
+        const QRectF normal(ink.x() * scale, ink.y() * scale, ink.width() * scale,
+                            ink.height() * scale);
+        if (reference.isNull())
+            reference = normal;
+        const double tolerance = 3 * scale;
+        QVERIFY(qAbs(normal.width() - reference.width()) <= tolerance);
+        QVERIFY(qAbs(normal.top() - reference.top()) <= tolerance);
+        QVERIFY(qAbs(normal.height() - reference.height()) <= tolerance);
+    }
 }
 
 void tst_ZvStagePreview::extremeStagesAreShown_data()
@@ -385,7 +469,7 @@ void tst_ZvStagePreview::getImageGivesTheCallerAPicture()
 void tst_ZvStagePreview::repaintingTakesThePictureAtHand()
 {
     QString items;
-    for (int i = 0; i < 2000; ++i)
+    for (int i = 0; i < 200; ++i)
         items += QStringLiteral("<Text x=\"0\" y=\"0\" width=\"1600\" height=\"900\" size=\"60\" "
                                 "color=\"#ffffff\">Welcome to line %1</Text>\n")
                      .arg(i);
