@@ -19,7 +19,8 @@ TimeTableRulerLine lineAt(double y, QTime time, bool isLast)
     line.time = time;
     line.isLast = isLast && time.minute() == 0;
     if (time.minute() == 0) {
-        const bool isHalfDay = time.hour() % 12 == 0 && time.second() == 0;
+        // The line half a minute behind noon is drawn over that of noon, so it has to be blue too.
+        const bool isHalfDay = time.hour() % 12 == 0;
         line.kind =
             isHalfDay || line.isLast ? TimeTableRulerLine::HalfDay : TimeTableRulerLine::Hour;
     }
