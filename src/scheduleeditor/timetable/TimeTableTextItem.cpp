@@ -2,45 +2,14 @@
 
 #include "timetable/TimeTableFont.h"
 
-#include <QCache>
-#include <QCoreApplication>
-#include <QPair>
-#include <QTextDocument>
+#include <QPainter>
+
+#include <cmath>
 
 namespace Zavo {
 
 namespace {
-
-using DocumentKey = QPair<QString, int>;
-using DocumentCache = QCache<DocumentKey, QSharedPointer<QTextDocument>>;
-
-constexpr int keptDocuments = 8192;
-
-DocumentCache &documentCache()
-{
-    static DocumentCache cache(keptDocuments);
-    // Documents hold fonts, which have to go before the application does.
-    static const bool registered = [] {
-        qAddPostRoutine([] { documentCache().clear(); });
-        return true;
-    }();
-    Q_UNUSED(registered)
-    return cache;
-}
-
-QSharedPointer<QTextDocument> documentOf(const QString &text, int pixelSize)
-{
-    const DocumentKey key(text, pixelSize);
-    if (const auto *kept = documentCache().object(key))
-        return *kept;
-    auto document = QSharedPointer<QTextDocument>::create();
-    document->setUndoRedoEnabled(false);
-    document->setDefaultFont(TimeTableFont::font(pixelSize));
-    document->setPlainText(text);
-    documentCache().insert(key, new QSharedPointer<QTextDocument>(document));
-    return document;
-}
-
+constexpr double documentMargin = 4.0; // px, that of a text document
 } // namespace
 
 TimeTableTextItem::TimeTableTextItem(QGraphicsItem *parent)
@@ -52,17 +21,43 @@ TimeTableTextItem::TimeTableTextItem(QGraphicsItem *parent)
     // the mouse.
     setAcceptHoverEvents(false);
     setAcceptDrops(false);
+    m_glyphs.setTextFormat(Qt::PlainText);
+    m_glyphs.setPerformanceHint(QStaticText::AggressiveCaching);
+    setDpiRatio(1.0);
 }
 
-TimeTableTextItem::~TimeTableTextItem() = default;
-
-void TimeTableTextItem::setLabel(const QString &text, int pixelSize)
+void TimeTableTextItem::setLabel(const QString &text)
 {
-    QSharedPointer<QTextDocument> document = documentOf(text, pixelSize);
-    if (document == m_document)
+    if (text == m_label)
         return;
-    setDocument(document.data());
-    m_document = document;
+    m_label = text;
+    setPlainText(text);
+    m_glyphs.setText(text);
+}
+
+void TimeTableTextItem::setDpiRatio(double dpiRatio)
+{
+    const int pixelSize = TimeTableFont::pixelSize(dpiRatio);
+    if (pixelSize == m_pixelSize)
+        return;
+    m_pixelSize = pixelSize;
+    m_font = TimeTableFont::font(pixelSize);
+    setFont(m_font);
+}
+
+void TimeTableTextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
+                              QWidget *widget)
+{
+    // Kept glyphs stand on other subpixels than the document's where a pixel is no whole number of
+    // device pixels.
+    const double pixelRatio = painter->deviceTransform().m11();
+    if (pixelRatio != std::floor(pixelRatio)) {
+        QGraphicsTextItem::paint(painter, option, widget);
+        return;
+    }
+    painter->setFont(m_font);
+    painter->setPen(Qt::black);
+    painter->drawStaticText(QPointF(documentMargin, documentMargin), m_glyphs);
 }
 
 } // namespace Zavo

@@ -1,31 +1,35 @@
 #pragma once
 
 #include <QGraphicsTextItem>
-#include <QSharedPointer>
-
-class QTextDocument;
+#include <QStaticText>
 
 namespace Zavo {
 
-/// A text of the time table that is not scaled with the view.
+/// A plain text of the time table that is not scaled with the view.
 ///
-/// Laying out a document costs more than all else about such an item, so items of the same text and
-/// size share one, and documents are kept for the next schedule on show.
+/// Making such an item costs more than all else about a band, and setting its text comes next. So
+/// setLabel() with the text that is there already costs nothing, and finished items can be kept for
+/// the next text (see TimeTableLabelPool). Painting through the document would lay out again each
+/// time; the glyphs are kept instead, on the same pixels.
 class TimeTableTextItem : public QGraphicsTextItem
 {
     Q_OBJECT
 
 public:
     explicit TimeTableTextItem(QGraphicsItem *parent = nullptr);
-    ~TimeTableTextItem() override;
 
-    bool hasLabel() const { return !m_document.isNull(); }
+    QString label() const { return m_label; }
+    void setLabel(const QString &text);
+    /// Sets the font's size to the integer part of @p dpiRatio times 12 pixels.
+    void setDpiRatio(double dpiRatio);
 
-    /// Shows @p text, as plain text, with letters of @p pixelSize.
-    void setLabel(const QString &text, int pixelSize);
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 private:
-    QSharedPointer<QTextDocument> m_document;
+    QString m_label;
+    int m_pixelSize = 0;
+    QFont m_font;
+    QStaticText m_glyphs;
 };
 
 } // namespace Zavo

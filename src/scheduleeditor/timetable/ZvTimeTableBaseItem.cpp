@@ -1,11 +1,9 @@
 #include "timetable/ZvTimeTableBaseItem.h"
 
 #include "timetable/TimeTableFont.h"
-#include "timetable/TimeTableTextItem.h"
 #include "timetable/ZvTimeTableTimeLabelItem.h"
 #include "timetable/ZvTimeTableTimeZoneItem.h"
 
-#include <QFontMetricsF>
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QPainter>
@@ -22,8 +20,8 @@ namespace {
 constexpr double timeZoneWidth = 240.0;
 constexpr double secondLength = 0.016666666666666666; // in scene units
 constexpr int secondsPerDay = 86400;
-constexpr int relabelDelay = 10;       // ms
-constexpr double labelClearance = 3.0; // px between a label's descent and its line
+constexpr int relabelDelay = 10;    // ms
+constexpr double labelReach = 50.0; // px that a label may stand away from its line
 
 QPen cosmeticPen(const QColor &color, Qt::PenStyle style = Qt::SolidLine)
 {
@@ -37,6 +35,7 @@ QPen cosmeticPen(const QColor &color, Qt::PenStyle style = Qt::SolidLine)
 ZvTimeTableBaseItem::ZvTimeTableBaseItem(QGraphicsItem *parent)
     : QGraphicsObject(parent)
     , m_labelItem(new ZvTimeTableTimeLabelItem(this))
+    , m_labels(m_labelItem)
 {
     qRegisterMetaType<QList<ZvTimeTableTimeLabelInfo>>("QList<ZvTimeTableTimeLabelInfo>");
     setFlag(ItemUsesExtendedStyleOption);
@@ -98,7 +97,9 @@ void ZvTimeTableBaseItem::paint(QPainter *painter, const QStyleOptionGraphicsIte
     paintRuler(painter, option->exposedRect);
     painter->restore();
     Q_EMIT timeTablePosUpdated(scenePos());
-    updateLabels();
+    m_labels.setLabels(m_ruler.labels(), m_verticalScale);
+    m_labels.ensure(option->exposedRect.top() - labelReach / m_verticalScale,
+                    option->exposedRect.bottom() + labelReach / m_verticalScale);
 }
 
 void ZvTimeTableBaseItem::followFontDpi(const QPainter &painter)
@@ -132,38 +133,9 @@ void ZvTimeTableBaseItem::paintRuler(QPainter *painter, const QRectF &exposed)
     }
 }
 
-void ZvTimeTableBaseItem::updateLabels()
-{
-    if (m_timeLabels == m_ruler.labels() && m_labelledScale == m_verticalScale)
-        return;
-    m_timeLabels = m_ruler.labels();
-    synchroniseLabels();
-}
-
 void ZvTimeTableBaseItem::synchroniseLabels()
 {
-    const int pixelSize = TimeTableFont::pixelSize(m_dpiRatio);
-    const double descent = QFontMetricsF(TimeTableFont::font(pixelSize)).descent();
-    for (int i = 0; i < m_timeLabels.size(); ++i) {
-        const ZvTimeTableTimeLabelInfo &label = m_timeLabels.at(i);
-        TimeTableTextItem *item = labelTextItemAt(i);
-        item->setLabel(label.text(), pixelSize);
-        const double rise = item->boundingRect().height() - (descent + labelClearance);
-        item->setPos(label.pos().x(), label.pos().y() - rise / m_verticalScale);
-        if (!item->parentItem())
-            item->setParentItem(m_labelItem);
-    }
-    while (m_labelTextItems.size() > m_timeLabels.size())
-        delete m_labelTextItems.takeLast();
-    m_labelledScale = m_verticalScale;
-}
-
-TimeTableTextItem *ZvTimeTableBaseItem::labelTextItemAt(int index)
-{
-    // Without a parent at first: a text is cheaper to set up before the scene knows it.
-    if (index == m_labelTextItems.size())
-        m_labelTextItems.append(new TimeTableTextItem);
-    return m_labelTextItems.at(index);
+    m_labels.setDpiRatio(m_dpiRatio);
 }
 
 void ZvTimeTableBaseItem::correctLabelAreaPos()

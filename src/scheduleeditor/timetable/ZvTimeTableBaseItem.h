@@ -1,6 +1,7 @@
 #pragma once
 
 #include "domain/ZvTimeTableTimeLabelInfo.h"
+#include "timetable/RulerLabels.h"
 #include "timetable/TimeAxis.h"
 #include "timetable/TimeTableRuler.h"
 
@@ -9,7 +10,6 @@
 
 namespace Zavo {
 
-class TimeTableTextItem;
 class ZvTimeTableTimeLabelItem;
 class ZvTimeTableTimeZoneItem;
 
@@ -63,8 +63,6 @@ private:
     void followFontDpi(const QPainter &painter);
     void fillTimeZones(QPainter *painter) const;
     void paintRuler(QPainter *painter, const QRectF &exposed);
-    void updateLabels();
-    TimeTableTextItem *labelTextItemAt(int index);
 
     double m_topMargin = TimeAxis::topMargin;
     double m_width = 420.0;
@@ -74,10 +72,8 @@ private:
     double m_verticalScale = 1.0;
     double m_horizontalScale = 1.0;
     TimeTableRuler m_ruler{1.0};
-    double m_labelledScale = 1.0;
-    QList<ZvTimeTableTimeLabelInfo> m_timeLabels;
-    QList<TimeTableTextItem *> m_labelTextItems;
     ZvTimeTableTimeLabelItem *m_labelItem = nullptr;
+    RulerLabels m_labels;
     QList<ZvTimeTableTimeZoneItem *> m_timeZones;
     double m_dpiRatio = 1.0;
 };

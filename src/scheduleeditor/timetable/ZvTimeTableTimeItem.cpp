@@ -1,14 +1,14 @@
 #include "timetable/ZvTimeTableTimeItem.h"
 
 #include "timetable/CosmeticOutline.h"
+#include "timetable/SelectionMarkItem.h"
+#include "timetable/TimeTableLabelPool.h"
 #include "timetable/ZvTimeTableTimeItemLabel.h"
 #include "timetable/ZvTimeTableTimeItemResizeHandle.h"
 
-#include <QGraphicsRectItem>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
-#include <QPen>
 
 namespace Zavo {
 
@@ -17,40 +17,38 @@ namespace {
 constexpr double selectedStackingOffset = 10000.0;
 constexpr double handleShare = 0.5; // of the band's height
 
-QPen markPen(const QColor &color)
+QString indexText(int index)
 {
-    QPen pen(color, 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
-    pen.setCosmetic(true);
-    return pen;
-}
-
-QGraphicsRectItem *createMarkRect(const QRectF &rect, const QColor &color, QGraphicsItem *parent)
-{
-    auto *item = new QGraphicsRectItem(rect, parent);
-    item->setFlag(QGraphicsItem::ItemIgnoresTransformations);
-    item->setPen(markPen(color));
-    return item;
+    return QStringLiteral("#%1").arg(index);
 }
 
 } // namespace
 
 ZvTimeTableTimeItem::ZvTimeTableTimeItem(QGraphicsItem *parent)
+    : ZvTimeTableTimeItem(QString(), 0, parent)
+{
+}
+
+ZvTimeTableTimeItem::ZvTimeTableTimeItem(const QString &stageName, int index, QGraphicsItem *parent)
     : QGraphicsObject(parent)
+    , m_index(index)
 {
     setFlag(ItemIsSelectable);
     setFlag(ItemIsMovable, false);
     setFlag(ItemSendsScenePositionChanges);
     setFlag(ItemSendsGeometryChanges);
 
-    m_stageLabel = new ZvTimeTableTimeItemLabel(this);
+    m_stageLabel = createLabel(stageName, QColor(255, 255, 255, 128));
     createMark();
     createHandles();
-    m_indexLabel = new ZvTimeTableTimeItemLabel(this);
-    m_indexLabel->setBackgroundColor(Qt::transparent);
+    m_indexLabel = createLabel(indexText(index), Qt::transparent);
+    applyStackingOrder();
 }
 
 ZvTimeTableTimeItem::~ZvTimeTableTimeItem()
 {
+    TimeTableLabelPool::give(m_indexLabel);
+    TimeTableLabelPool::give(m_stageLabel);
     if (m_previousItem)
         m_previousItem->setNextItem(m_nextItem);
     if (m_nextItem) {
@@ -59,12 +57,22 @@ ZvTimeTableTimeItem::~ZvTimeTableTimeItem()
     }
 }
 
+ZvTimeTableTimeItemLabel *ZvTimeTableTimeItem::createLabel(const QString &text,
+                                                           const QColor &background)
+{
+    ZvTimeTableTimeItemLabel *label = TimeTableLabelPool::take(text);
+    label->setBackgroundColor(background);
+    label->setPos(0.0, 0.0);
+    label->setParentItem(this);
+    return label;
+}
+
 void ZvTimeTableTimeItem::createMark()
 {
-    m_selectionRect = createMarkRect(boundingRect(), m_markColor, this);
+    m_selectionRect = new SelectionMarkItem(boundingRect(), m_markColor, this);
     m_selectionRect->setVisible(isSelected());
-    m_innerSelectionRect =
-        createMarkRect(boundingRect().adjusted(1.0, 1.0, -2.0, -2.0), m_markColor, m_selectionRect);
+    m_innerSelectionRect = new SelectionMarkItem(boundingRect().adjusted(1.0, 1.0, -2.0, -2.0),
+                                                 m_markColor, m_selectionRect);
 }
 
 void ZvTimeTableTimeItem::createHandles()
@@ -126,7 +134,7 @@ void ZvTimeTableTimeItem::setTimeInfo(const ZvTime &time)
     setPos(m_left, top);
     m_positionLimited = true;
 
-    m_stageLabel->setText(time.stageName());
+    m_stageLabel->setLabel(time.stageName());
     layoutChildren();
     update();
 }
@@ -194,10 +202,10 @@ void ZvTimeTableTimeItem::renumber()
 
 void ZvTimeTableTimeItem::setIndex(int index)
 {
-    if (m_index == index && m_indexLabel->hasLabel())
+    if (index == m_index)
         return;
     m_index = index;
-    m_indexLabel->setText(QStringLiteral("#%1").arg(index));
+    m_indexLabel->setLabel(indexText(index));
     applyStackingOrder();
 }
 

@@ -26,6 +26,8 @@ public:
     enum { Type = UserType + 3 };
 
     explicit ZvTimeTableTimeItem(QGraphicsItem *parent = nullptr);
+    /// With its texts from the start, which spares the labels a change.
+    ZvTimeTableTimeItem(const QString &stageName, int index, QGraphicsItem *parent = nullptr);
     /// Takes itself out of the chain; the items behind it are renumbered.
     ~ZvTimeTableTimeItem() override;
 
@@ -97,6 +99,7 @@ protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
 
 private:
+    ZvTimeTableTimeItemLabel *createLabel(const QString &text, const QColor &background);
     void createMark();
     void createHandles();
     QPointF limitedPosition(const QPointF &position) const;

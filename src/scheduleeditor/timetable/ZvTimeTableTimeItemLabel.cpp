@@ -9,16 +9,12 @@ namespace Zavo {
 ZvTimeTableTimeItemLabel::ZvTimeTableTimeItemLabel(QGraphicsItem *parent)
     : TimeTableTextItem(parent)
 {
-    setText(QString());
-}
-
-void ZvTimeTableTimeItemLabel::setText(const QString &text)
-{
-    setLabel(text, TimeTableFont::pixelSize(m_dpiRatio));
 }
 
 void ZvTimeTableTimeItemLabel::setBackgroundColor(const QColor &color)
 {
+    if (color == m_backgroundColor)
+        return;
     m_backgroundColor = color;
     update();
 }
@@ -29,11 +25,11 @@ void ZvTimeTableTimeItemLabel::paint(QPainter *painter, const QStyleOptionGraphi
     const double ratio = TimeTableFont::dpiRatioOf(*painter);
     if (ratio != m_dpiRatio) {
         m_dpiRatio = ratio;
-        setText(toPlainText());
+        setDpiRatio(ratio);
     }
     if (m_backgroundColor.alpha() > 0)
         painter->fillRect(boundingRect(), m_backgroundColor);
-    QGraphicsTextItem::paint(painter, option, widget);
+    TimeTableTextItem::paint(painter, option, widget);
 }
 
 } // namespace Zavo

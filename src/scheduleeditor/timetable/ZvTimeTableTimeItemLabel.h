@@ -14,7 +14,6 @@ class ZvTimeTableTimeItemLabel final : public TimeTableTextItem
 public:
     explicit ZvTimeTableTimeItemLabel(QGraphicsItem *parent = nullptr);
 
-    void setText(const QString &text);
     void setBackgroundColor(const QColor &color);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;

@@ -173,11 +173,11 @@ bool ZvTimeTableTimeZoneItem::insertTimeItems(QList<ZvTime> times)
     return allPlaced;
 }
 
-ZvTimeTableTimeItem *ZvTimeTableTimeZoneItem::createTimeItem(const ZvTime &time,
+ZvTimeTableTimeItem *ZvTimeTableTimeZoneItem::createTimeItem(const ZvTime &time, int index,
                                                              double verticalScale)
 {
     // Without a parent at first: a band is cheaper to set up before the scene knows it.
-    auto *item = new ZvTimeTableTimeItem;
+    auto *item = new ZvTimeTableTimeItem(time.stageName(), index);
     const QRectF strip = innerRect();
     item->setLeft(m_margin);
     item->setTopMargin(m_margin);
@@ -197,7 +197,7 @@ bool ZvTimeTableTimeZoneItem::insertTimeItem(const ZvTime &time, double vertical
     const int index = m_timeItems.insertionIndex(time.startTime(), time.endTime());
     if (index < 0)
         return false;
-    ZvTimeTableTimeItem *item = createTimeItem(time, verticalScale);
+    ZvTimeTableTimeItem *item = createTimeItem(time, index, verticalScale);
     m_timeItems.insert(index, item);
     item->setSelected(true);
     Q_EMIT timeItemCountChanged(m_timeItems.count());

@@ -109,7 +109,7 @@ protected:
 private:
     class BulkChange;
 
-    ZvTimeTableTimeItem *createTimeItem(const ZvTime &time, double verticalScale);
+    ZvTimeTableTimeItem *createTimeItem(const ZvTime &time, int index, double verticalScale);
     bool insertTimeItem(const ZvTime &time, double verticalScale);
     void selectOnly(ZvTimeTableTimeItem *item);
 

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QMultiHash>
+#include <QObject>
+#include <QString>
+
+namespace Zavo {
+
+class ZvTimeTableTimeItemLabel;
+
+/// Keeps the labels of bands that went for bands that come: at a switch of schedule most of them
+/// bear the same texts again.
+///
+/// One pool for the application, which dies with it. Labels in the pool have neither parent nor
+/// scene, and the pool owns them.
+class TimeTableLabelPool final : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~TimeTableLabelPool() override;
+
+    /// A label with @p text, without a parent; the caller takes it over.
+    static ZvTimeTableTimeItemLabel *take(const QString &text);
+    /// Takes @p label over, out of its parent and its scene. Without an application, or when enough
+    /// labels are kept, it is deleted.
+    static void give(ZvTimeTableTimeItemLabel *label);
+
+private:
+    explicit TimeTableLabelPool(QObject *parent);
+
+    static TimeTableLabelPool *instance();
+    ZvTimeTableTimeItemLabel *takeKept(const QString &text);
+    void keep(ZvTimeTableTimeItemLabel *label);
+
+    QMultiHash<QString, ZvTimeTableTimeItemLabel *> m_labels;
+};
+
+} // namespace Zavo
