@@ -261,7 +261,8 @@ void ZvScheduleWorkingArea::onTimeTableTimeItemsMoved(const QList<ZvTimeTableTim
 
 void ZvScheduleWorkingArea::onTimeTableTimeItemHasNotSelected()
 {
-    Q_EMIT timeTableTimeItemHasNotSelected(this);
+    if (scene())
+        Q_EMIT timeTableTimeItemHasNotSelected(this);
 }
 
 } // namespace Zavo
