@@ -45,7 +45,7 @@ ZvTimeTableScene::ZvTimeTableScene(QObject *parent)
 ZvTimeTableScene::~ZvTimeTableScene()
 {
     // The selection empties while the items go; nobody is to be told of it any more.
-    disconnect(this, SIGNAL(selectionChanged()), this, SLOT(onSelectionChanged()));
+    disconnect(this, SIGNAL(selectionChanged()), nullptr, nullptr);
 }
 
 void ZvTimeTableScene::setBaseItem(ZvTimeTableBaseItem *baseItem)
