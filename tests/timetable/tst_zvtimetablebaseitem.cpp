@@ -1,6 +1,5 @@
 #include "timetable/ZvTimeTableBaseItem.h"
 
-#include "SignalLog.h"
 #include "TimeTableFixture.h"
 
 #include <QFontMetricsF>
@@ -16,7 +15,6 @@
 using namespace Zavo;
 using ZavoTest::labelCarrierOf;
 using ZavoTest::rulerTextsOf;
-using ZavoTest::SignalLog;
 using ZavoTest::TimeTableFixture;
 
 namespace {
