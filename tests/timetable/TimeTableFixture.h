@@ -17,6 +17,7 @@
 #include <QList>
 #include <QStringList>
 
+#include <algorithm>
 #include <memory>
 
 namespace ZavoTest {
@@ -184,10 +185,15 @@ inline Zavo::ZvTimeTableTimeLabelItem *labelCarrierOf(const Zavo::ZvTimeTableBas
     return childrenOf<Zavo::ZvTimeTableTimeLabelItem>(base).value(0);
 }
 
-/// The texts of the ruler, from top to bottom.
+/// The texts of the ruler, from top to bottom. Those out of sight may come from the event loop.
 inline QList<QGraphicsTextItem *> rulerTextsOf(const Zavo::ZvTimeTableBaseItem *base)
 {
-    return childrenOf<QGraphicsTextItem>(labelCarrierOf(base));
+    QList<QGraphicsTextItem *> texts = childrenOf<QGraphicsTextItem>(labelCarrierOf(base));
+    std::sort(texts.begin(), texts.end(),
+              [](const QGraphicsTextItem *text, const QGraphicsTextItem *other) {
+                  return text->y() < other->y();
+              });
+    return texts;
 }
 
 } // namespace ZavoTest

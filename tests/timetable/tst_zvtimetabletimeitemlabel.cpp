@@ -53,6 +53,8 @@ private Q_SLOTS:
     void doesNotResizeOthersOfTheSameText();
     void showsTextAsItStands_data();
     void showsTextAsItStands();
+    void drawsThePixelsOfAPlainText_data();
+    void drawsThePixelsOfAPlainText();
     void outlivesAnotherOfTheSameText();
     void letsTheMouseThrough();
 };
@@ -83,7 +85,7 @@ void tst_ZvTimeTableTimeItemLabel::fillsItsBackground()
     QFETCH(QColor, color);
     QFETCH(QColor, seen);
     ZvTimeTableTimeItemLabel label;
-    label.setText(QStringLiteral("stage"));
+    label.setLabel(QStringLiteral("stage"));
     if (color.isValid())
         label.setBackgroundColor(color);
     QImage image = canvas();
@@ -120,7 +122,7 @@ void tst_ZvTimeTableTimeItemLabel::takesTheSizeOfTheDevice()
     QFETCH(double, dpi);
     QFETCH(int, pixelSize);
     ZvTimeTableTimeItemLabel label;
-    label.setText(QStringLiteral("stage"));
+    label.setLabel(QStringLiteral("stage"));
     QImage image = canvas(dpi);
     QCOMPARE(image.logicalDpiY(), qRound(dpi));
     paintOn(&image, &label);
@@ -131,7 +133,7 @@ void tst_ZvTimeTableTimeItemLabel::takesTheSizeOfTheDevice()
 void tst_ZvTimeTableTimeItemLabel::keepsItsTextWhenTheSizeChanges()
 {
     ZvTimeTableTimeItemLabel label;
-    label.setText(QStringLiteral("folder/<b>&amp;  stage"));
+    label.setLabel(QStringLiteral("folder/<b>&amp;  stage"));
     const double height = label.boundingRect().height();
     QImage image = canvas(192.0);
     paintOn(&image, &label);
@@ -139,14 +141,14 @@ void tst_ZvTimeTableTimeItemLabel::keepsItsTextWhenTheSizeChanges()
     QVERIFY(label.boundingRect().height() > 1.5 * height);
 
     // And a new text has the size that the old one had got.
-    label.setText(QStringLiteral("other"));
+    label.setLabel(QStringLiteral("other"));
     QCOMPARE(label.font().pixelSize(), 24);
 }
 
 void tst_ZvTimeTableTimeItemLabel::comesBackToTheSizeOfTheScreen()
 {
     ZvTimeTableTimeItemLabel label;
-    label.setText(QStringLiteral("stage"));
+    label.setLabel(QStringLiteral("stage"));
     const QRectF before = label.boundingRect();
     QImage fine = canvas(192.0);
     paintOn(&fine, &label);
@@ -160,8 +162,8 @@ void tst_ZvTimeTableTimeItemLabel::doesNotResizeOthersOfTheSameText()
 {
     ZvTimeTableTimeItemLabel label;
     ZvTimeTableTimeItemLabel other;
-    label.setText(QStringLiteral("stage"));
-    other.setText(QStringLiteral("stage"));
+    label.setLabel(QStringLiteral("stage"));
+    other.setLabel(QStringLiteral("stage"));
     QImage image = canvas(192.0);
     paintOn(&image, &label);
     QCOMPARE(label.font().pixelSize(), 24);
@@ -185,12 +187,59 @@ void tst_ZvTimeTableTimeItemLabel::showsTextAsItStands()
 {
     QFETCH(QString, text);
     ZvTimeTableTimeItemLabel label;
-    label.setText(text);
+    label.setLabel(text);
     QCOMPARE(label.toPlainText(), text);
     QCOMPARE(label.document()->blockCount(), 1);
     QImage image = canvas();
     paintOn(&image, &label);
     QCOMPARE(label.toPlainText(), text);
+}
+
+void tst_ZvTimeTableTimeItemLabel::drawsThePixelsOfAPlainText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("name") << QStringLiteral("folder/stage 1.xml");
+    QTest::newRow("number") << QStringLiteral("#10");
+    QTest::newRow("markup") << QStringLiteral("<b>AV</b> &amp;");
+    QTest::newRow("Japanese") << QString::fromUtf8("\xe3\x83\x86\xe3\x82\xb9\xe3\x83\x88.xml");
+    QTest::newRow("right to left") << QString::fromUtf8("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d.xml");
+    QTest::newRow("combining") << QString::fromUtf8("a\xcc\x81o\xcc\x88.xml");
+    QTest::newRow("beyond the first plane") << QString::fromUtf8("\xf0\x9f\x8e\xac.xml");
+    QTest::newRow("spaces") << QStringLiteral("  a   b  ");
+    QTest::newRow("tab") << QStringLiteral("a\tb");
+    QTest::newRow("line break") << QStringLiteral("a\nb");
+}
+
+void tst_ZvTimeTableTimeItemLabel::drawsThePixelsOfAPlainText()
+{
+    QFETCH(QString, text);
+    ZvTimeTableTimeItemLabel label;
+    label.setLabel(text);
+    label.setBackgroundColor(Qt::transparent);
+    QGraphicsTextItem plain;
+    plain.setFont(label.font());
+    plain.setPlainText(text);
+    QCOMPARE(label.boundingRect(), plain.boundingRect());
+    for (double ratio : {1.0, 1.25, 2.0}) {
+        for (const QPointF &place : {QPointF(10.0, 10.0), QPointF(10.5, 10.5),
+                                     QPointF(10.25, 10.75), QPointF(-30.0, -3.0)}) {
+            const auto painted = [ratio, place](QGraphicsItem *item) {
+                QImage image(QSize(200, 60) * ratio, QImage::Format_ARGB32_Premultiplied);
+                image.setDevicePixelRatio(ratio);
+                image.setDotsPerMeterX(3780);
+                image.setDotsPerMeterY(3780);
+                image.fill(Qt::white);
+                QPainter painter(&image);
+                painter.translate(place);
+                QStyleOptionGraphicsItem option;
+                option.exposedRect = item->boundingRect();
+                item->paint(&painter, &option, nullptr);
+                return image;
+            };
+            QVERIFY2(painted(&label) == painted(&plain),
+                     qPrintable(QStringLiteral("ratio %1 at %2").arg(ratio).arg(place.x())));
+        }
+    }
 }
 
 void tst_ZvTimeTableTimeItemLabel::outlivesAnotherOfTheSameText()
@@ -199,8 +248,8 @@ void tst_ZvTimeTableTimeItemLabel::outlivesAnotherOfTheSameText()
     QImage alone = canvas();
     {
         ZvTimeTableTimeItemLabel other;
-        label.setText(QStringLiteral("stage"));
-        other.setText(QStringLiteral("stage"));
+        label.setLabel(QStringLiteral("stage"));
+        other.setLabel(QStringLiteral("stage"));
         paintOn(&alone, &label);
     }
     QImage after = canvas();
