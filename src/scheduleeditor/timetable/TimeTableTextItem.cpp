@@ -3,6 +3,7 @@
 #include "timetable/TimeTableFont.h"
 
 #include <QPainter>
+#include <QTextDocument>
 
 #include <cmath>
 
@@ -49,9 +50,9 @@ void TimeTableTextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem 
                               QWidget *widget)
 {
     // Kept glyphs stand on other subpixels than the document's where a pixel is no whole number of
-    // device pixels.
+    // device pixels, and all on one line.
     const double pixelRatio = painter->deviceTransform().m11();
-    if (pixelRatio != std::floor(pixelRatio)) {
+    if (pixelRatio != std::floor(pixelRatio) || document()->blockCount() > 1) {
         QGraphicsTextItem::paint(painter, option, widget);
         return;
     }
