@@ -34,11 +34,9 @@ StageDropPlan::StageDropPlan(QTime start, const QStringList &stageNames, const Q
         m_refusal = TooLate;
         return;
     }
-    if (stageNames.isEmpty())
-        return;
     const double startY = TimeAxis::unitsOf(start) + stripTop;
     findGap(startY, bands, stripBottom);
-    if (m_refusal != NotRefused)
+    if (m_refusal != NotRefused || stageNames.isEmpty())
         return;
     const double share = (m_gapBottom - startY) / stageNames.size();
     if (leastShare > share) {
