@@ -204,6 +204,16 @@ void ZvTimeTableScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
         m_dragMode = DragSelection;
     Q_EMIT mousePressed();
     QGraphicsScene::mousePressEvent(event);
+    if (event->buttons() == Qt::RightButton)
+        freeMouse();
+}
+
+void ZvTimeTableScene::freeMouse()
+{
+    // The items never see the release of the right button, so a band that took its press would keep
+    // the mouse from all others.
+    if (QGraphicsItem *grabber = mouseGrabberItem())
+        grabber->ungrabMouse();
 }
 
 void ZvTimeTableScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
@@ -225,8 +235,11 @@ bool ZvTimeTableScene::continueDrag(const QPointF &current, const QPointF &last)
 void ZvTimeTableScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
     m_dragMode = NoDrag;
-    if (event->button() == Qt::RightButton)
+    if (event->button() == Qt::RightButton) {
+        if (event->buttons() == Qt::NoButton)
+            freeMouse();
         return;
+    }
     QGraphicsScene::mouseReleaseEvent(event);
     const bool movedInScene = event->scenePos() != event->buttonDownScenePos(event->button());
     if (movedInScene || event->pos() != m_pressPos)

@@ -79,6 +79,7 @@ private:
     bool isOnSelectedTimeItem(const QPointF &point) const;
     bool resizeSelectedTimeItem(const QPointF &current, const QPointF &last);
     bool continueDrag(const QPointF &current, const QPointF &last);
+    void freeMouse();
 
     double m_verticalScale = 1.0;
     double m_horizontalScale = 1.0;
