@@ -28,4 +28,16 @@ QString scheduleText(const ZvScheduleBasicInfo &info)
     }
 }
 
+QString numberedScheduleTexts(const QList<ZvScheduleBasicInfo> &infos)
+{
+    QString lines;
+    int number = 0;
+    for (const ZvScheduleBasicInfo &info : infos) {
+        const QString text = scheduleText(info);
+        if (!text.isEmpty())
+            lines += QStringLiteral("%1: %2\n").arg(QString::number(++number), text);
+    }
+    return lines;
+}
+
 } // namespace Zavo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class QDate;
@@ -14,5 +15,8 @@ QString dateText(const QDate &date);
 
 /// What a schedule is called in titles and questions; empty for a type that no channel holds.
 QString scheduleText(const ZvScheduleBasicInfo &info);
+
+/// A line with a running number from 1 for each of @p infos that has a text.
+QString numberedScheduleTexts(const QList<ZvScheduleBasicInfo> &infos);
 
 } // namespace Zavo
