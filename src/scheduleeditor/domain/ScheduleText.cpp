@@ -28,12 +28,13 @@ QString scheduleText(const ZvScheduleBasicInfo &info)
     }
 }
 
-QString numberedScheduleTexts(const QList<ZvScheduleBasicInfo> &infos)
+QString numberedTexts(const QList<ZvScheduleBasicInfo> &infos,
+                      QString (*textOf)(const ZvScheduleBasicInfo &))
 {
     QString lines;
     int number = 0;
     for (const ZvScheduleBasicInfo &info : infos) {
-        const QString text = scheduleText(info);
+        const QString text = textOf(info);
         if (!text.isEmpty())
             lines += QStringLiteral("%1: %2\n").arg(QString::number(++number), text);
     }

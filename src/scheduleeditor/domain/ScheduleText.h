@@ -16,7 +16,8 @@ QString dateText(const QDate &date);
 /// What a schedule is called in titles and questions; empty for a type that no channel holds.
 QString scheduleText(const ZvScheduleBasicInfo &info);
 
-/// A line with a running number from 1 for each of @p infos that has a text.
-QString numberedScheduleTexts(const QList<ZvScheduleBasicInfo> &infos);
+/// A line with a running number from 1 for each of @p infos to which @p textOf gives a text.
+QString numberedTexts(const QList<ZvScheduleBasicInfo> &infos,
+                      QString (*textOf)(const ZvScheduleBasicInfo &) = scheduleText);
 
 } // namespace Zavo

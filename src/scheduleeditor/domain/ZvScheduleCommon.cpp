@@ -55,7 +55,7 @@ ZvScheduleCommon::confirmScheduleReplace(const QList<ZvScheduleBasicInfo> &infos
     QString details;
     if (!infos.isEmpty())
         details = tr("The following schedule will be %1replaced.\n\n").arg(removedOr) +
-                  numberedScheduleTexts(infos);
+                  numberedTexts(infos);
     return showMessageBox(parent, QMessageBox::Warning, tr("Paste Schedule"),
                           tr("The schedule exists in paste destination. The schedule will be "
                              "%1replaced.\nDo you want to continue?")

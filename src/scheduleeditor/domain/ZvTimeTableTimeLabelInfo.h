@@ -15,7 +15,8 @@ public:
     ZvTimeTableTimeLabelInfo(const QPointF &pos, const QString &text)
         : m_pos(pos)
         , m_text(text)
-    {}
+    {
+    }
 
     QPointF pos() const { return m_pos; }
     QString text() const { return m_text; }

@@ -375,6 +375,18 @@ void ZvScheduleEditor::action_output_channel_data()
     showChannelExporter();
 }
 
+void ZvScheduleEditor::action_create_schedule()
+{
+    if (m_mainWidget)
+        m_mainWidget->createScheduleByCurrentInfoWithUndo();
+}
+
+void ZvScheduleEditor::action_delete_schedule()
+{
+    if (m_mainWidget)
+        m_mainWidget->removeScheduleByCurrentInfoWithUndo();
+}
+
 void ZvScheduleEditor::action_channel_configuration()
 {
     showChannelConfiguration();

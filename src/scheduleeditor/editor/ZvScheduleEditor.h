@@ -116,6 +116,8 @@ public Q_SLOTS:
     void action_deselectAll();
     void action_upload();
     void action_output_channel_data();
+    void action_create_schedule();
+    void action_delete_schedule();
     void action_channel_configuration();
 
     void onCurrentChannelChanged(const ZvChannel *channel);

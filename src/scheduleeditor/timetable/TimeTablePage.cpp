@@ -2,7 +2,9 @@
 
 #include "ZvSchedule.h"
 #include "domain/MessageBox.h"
+#include "services/ZvScheduleClipboard.h"
 #include "stages/ZvScheduleDefaultStageWidget.h"
+#include "timetable/TimeBlock.h"
 #include "timetable/TimeItemRects.h"
 #include "timetable/WorkingAreaHeader.h"
 #include "timetable/WorkingAreaStatusBar.h"
@@ -14,6 +16,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCursor>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -153,6 +156,74 @@ void TimeTablePage::deselectAllItems()
 {
     if (ZvTimeTableTimeZoneItem *zone = timeZone())
         zone->clearSelection();
+}
+
+bool TimeTablePage::copySelectedItems()
+{
+    if (!m_scheduleEnabled || !m_scene)
+        return false;
+    const QList<ZvTime> times = m_scene->selectedTimes();
+    ZvScheduleClipboard::writeTimesToClipboard(times);
+    return !times.isEmpty();
+}
+
+QList<ZvTime> TimeTablePage::cutSelectedItems()
+{
+    return copySelectedItems() ? deleteSelectedItems() : QList<ZvTime>();
+}
+
+QPointF TimeTablePage::positionInZone(const QPoint &viewPosition) const
+{
+    return timeZone()->mapFromScene(m_view->mapToScene(viewPosition));
+}
+
+bool TimeTablePage::isPastingPossible() const
+{
+    const ZvTimeTableTimeZoneItem *zone = timeZone();
+    if (!m_scheduleEnabled || !zone || !ZvScheduleClipboard::hasTimeData())
+        return false;
+    const QRectF strip = zone->innerRect();
+    return strip.contains(positionInZone(m_view->mapFromGlobal(QCursor::pos()))) ||
+           strip.contains(positionInZone(m_view->lastReleasePos()));
+}
+
+bool TimeTablePage::pasteItems()
+{
+    if (!m_scheduleEnabled || !timeZone())
+        return false;
+    const QList<ZvTime> times = ZvScheduleClipboard::readTimesFromClipboard();
+    const QPointF position = positionInZone(m_view->lastReleasePos());
+    if (times.isEmpty() || !timeZone()->innerRect().contains(position))
+        return false;
+
+    const TimeBlock block(times);
+    const QTime target = timeZone()->timeAtY(position.y());
+    if (!block.fitsAt(target)) {
+        showCritical(tr("Stopped"),
+                     tr("Can not paste.\nThere is not enough blank duration to paste "
+                        "in the time area."));
+        return false;
+    }
+    const QList<ZvTime> pasted = block.movedTo(target);
+    const QList<ZvTime> removed =
+        timeItemsInRange(pasted.first().startTime(), pasted.last().endTime());
+    if (!removed.isEmpty() && !makeRoom(removed))
+        return false;
+    insertTimeItems(pasted);
+    Q_EMIT timeItemPasted(removed, pasted);
+    return true;
+}
+
+bool TimeTablePage::makeRoom(const QList<ZvTime> &timesInTheWay)
+{
+    const int answer = showWarningQuestion(
+        tr("Notice"),
+        tr("There is the assigned time band in target range.\nDo you want to delete the "
+           "assigned time band and to paste?"));
+    if (answer != QMessageBox::Yes)
+        return false;
+    removeTimeItems(timesInTheWay);
+    return true;
 }
 
 void TimeTablePage::setContextMenu(QMenu *menu)

@@ -47,12 +47,23 @@ public:
     /// The edit commands that the selection of bands allows.
     SelectedType hasSelectedItems() const;
 
+    /// Whether the clipboard holds bands and the mouse, or else its last release, is over the
+    /// strip.
+    bool isPastingPossible() const;
+
     void insertTimeItems(const QList<ZvTime> &times);
     void removeTimeItems(const QList<ZvTime> &times);
     /// Removes the selected bands and returns their records.
     QList<ZvTime> deleteSelectedItems();
     void selectAllItems();
     void deselectAllItems();
+    /// False, with the clipboard as it was, if nothing is selected.
+    bool copySelectedItems();
+    /// Copies and removes the selected bands and returns their records.
+    QList<ZvTime> cutSelectedItems();
+    /// Pastes the clipboard's bands as one block at the last mouse release, after a question if
+    /// bands are in its way. False if nothing was pasted.
+    bool pasteItems();
 
     /// The menu of the time table, which stays its owner's.
     void setContextMenu(QMenu *menu);
@@ -83,6 +94,8 @@ Q_SIGNALS:
     void currentScheuleEnabledChanged(bool enabled);
     /// A drop made these bands.
     void timeItemInserted(const QList<ZvTime> &times);
+    /// @p pastedTimes came in, and @p removedTimes gave way.
+    void timeItemPasted(const QList<ZvTime> &removedTimes, const QList<ZvTime> &pastedTimes);
     /// All selected bands have changed; both maps have the same indices as keys.
     void timeTableTimeItemsMovingFinished(const QMap<int, QRectF> &afterRects,
                                           const QMap<int, QRectF> &beforeRects);
@@ -125,6 +138,8 @@ private:
     void createTimeTable();
     void connectParts();
     ZvTimeTableScene *releaseScene();
+    QPointF positionInZone(const QPoint &viewPosition) const;
+    bool makeRoom(const QList<ZvTime> &timesInTheWay);
     int ask(QMessageBox::Icon icon, const QString &title, const QString &message,
             int *pressedButton);
 

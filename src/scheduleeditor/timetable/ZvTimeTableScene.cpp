@@ -99,12 +99,18 @@ void ZvTimeTableScene::removeTimeItems(const QList<ZvTime> &times)
     m_timeZoneItem->removeTimeItems(times);
 }
 
-QList<ZvTime> ZvTimeTableScene::removeSelectedTimeItems()
+QList<ZvTime> ZvTimeTableScene::selectedTimes() const
 {
     QList<ZvTime> times;
     times.reserve(m_selectedTimeItems.size());
-    for (const ZvTimeTableTimeItem *item : qAsConst(m_selectedTimeItems))
+    for (const ZvTimeTableTimeItem *item : m_selectedTimeItems)
         times.append(item->timeInfo());
+    return times;
+}
+
+QList<ZvTime> ZvTimeTableScene::removeSelectedTimeItems()
+{
+    const QList<ZvTime> times = selectedTimes();
     if (!times.isEmpty())
         removeTimeItems(times);
     return times;

@@ -31,6 +31,8 @@ public:
     ZvTimeTableTimeZoneItem *timeZoneItem() const { return m_timeZoneItem; }
     /// The selected bands by index, as the last pass over the selection left them.
     QList<ZvTimeTableTimeItem *> selectedTimeItems() const { return m_selectedTimeItems; }
+    /// The records of selectedTimeItems(), in order.
+    QList<ZvTime> selectedTimes() const;
     double verticalScale() const { return m_verticalScale; }
     /// The records of the bands that intersect the range, in order.
     QList<ZvTime> timeItemsInRange(QTime start, QTime end) const;

@@ -194,6 +194,9 @@ ZvTimeTableTimeItem *ZvTimeTableTimeZoneItem::createTimeItem(const ZvTime &time,
 
 bool ZvTimeTableTimeZoneItem::insertTimeItem(const ZvTime &time, double verticalScale)
 {
+    // A record from outside may end before it starts; a band cannot.
+    if (time.endTime() < time.startTime())
+        return false;
     const int index = m_timeItems.insertionIndex(time.startTime(), time.endTime());
     if (index < 0)
         return false;

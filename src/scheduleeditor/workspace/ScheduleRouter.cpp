@@ -63,34 +63,17 @@ QList<QAction *> ScheduleRouter::findActions(const QStringList &names) const
 
 void ScheduleRouter::connectWorkingArea(ZvScheduleWorkingArea *area)
 {
-    struct Wire
-    {
-        const char *signal;
-        const char *slot;
-    };
-    static const Wire wires[] = {
-        {SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)),
-            SLOT(onTimeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*))},
-            {SIGNAL(timeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)),
-                SLOT(onTimeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*))},
-                {SIGNAL(scheduleCreated(QList<int>,ZvScheduleBasicInfo)),
-                    SLOT(onScheduleCreated(QList<int>,ZvScheduleBasicInfo))},
-                    {SIGNAL(scheduleRemoved(QList<ZvScheduleBasicInfo>,ZvScheduleBasicInfo)),
-                        SLOT(onScheduleRemoved(QList<ZvScheduleBasicInfo>,ZvScheduleBasicInfo))},
-                        {SIGNAL(currentScheuleEnabledChanged(bool)),
-                            SLOT(onCurrentScheduleEnabledChanged(bool))},
-                            {SIGNAL(scheduleStageCountChanged(ZvScheduleBasicInfo,int)),
-                                    SLOT(onScheduleStageCountChanged(ZvScheduleBasicInfo,int))},
-                                    {SIGNAL(currentScheduleInfoChanged(ZvScheduleBasicInfo)),
-                                        SLOT(onCurrentScheduleInfoChanged(ZvScheduleBasicInfo))},
-                                        {SIGNAL(activated()), SLOT(onWorkingAreaActivated())},
-                                            {SIGNAL(requestCreateCurrentSchedule()),
-                                                    SLOT(createScheduleByCurrentInfo())},
-                                                    {SIGNAL(graphicsScenePurged(QGraphicsScene*)),
-                                                            SLOT(onGraphicsScenePurged(QGraphicsScene*))},
-                                                    };
-    for (const Wire &wire : wires)
-        connect(area, wire.signal, this, wire.slot);
+    // clang-format off
+    connect(area, SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)), this, SLOT(onTimeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)));
+    connect(area, SIGNAL(timeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)), this, SLOT(onTimeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)));
+    connect(area, SIGNAL(scheduleCreated(QList<int>,ZvScheduleBasicInfo)), this, SLOT(onScheduleCreated(QList<int>,ZvScheduleBasicInfo)));
+    connect(area, SIGNAL(scheduleRemoved(QList<ZvScheduleBasicInfo>,ZvScheduleBasicInfo)), this, SLOT(onScheduleRemoved(QList<ZvScheduleBasicInfo>,ZvScheduleBasicInfo)));
+    connect(area, SIGNAL(currentScheuleEnabledChanged(bool)), this, SLOT(onCurrentScheduleEnabledChanged(bool)));
+    connect(area, SIGNAL(scheduleStageCountChanged(ZvScheduleBasicInfo,int)), this, SLOT(onScheduleStageCountChanged(ZvScheduleBasicInfo,int)));
+    connect(area, SIGNAL(currentScheduleInfoChanged(ZvScheduleBasicInfo)), this, SLOT(onCurrentScheduleInfoChanged(ZvScheduleBasicInfo)));
+    connect(area, SIGNAL(activated()), this, SLOT(onWorkingAreaActivated()));
+    connect(area, SIGNAL(graphicsScenePurged(QGraphicsScene*)), this, SLOT(onGraphicsScenePurged(QGraphicsScene*)));
+    // clang-format on
 }
 
 void ScheduleRouter::mousePressEvent(QMouseEvent *event)
@@ -184,30 +167,22 @@ ZvScheduleCommonInterface::SelectedType ScheduleRouter::hasSelectedItems() const
     return area ? area->hasSelectedItems() : SelectedType();
 }
 
-void ScheduleRouter::deleteSelectedItems()
-{
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
-        area->deleteSelectedItems();
-}
-
 bool ScheduleRouter::copySelectedItems()
 {
-    return false;
-}
-
-bool ScheduleRouter::cutSelectedItems()
-{
-    return false;
+    ZvScheduleWorkingArea *area = currentWorkingArea();
+    return area && area->copySelectedItems();
 }
 
 bool ScheduleRouter::isPastingPossible() const
 {
-    return false;
+    const ZvScheduleWorkingArea *area = currentWorkingArea();
+    return area && area->isPastingPossible();
 }
 
 bool ScheduleRouter::pasteItems()
 {
-    return false;
+    ZvScheduleWorkingArea *area = currentWorkingArea();
+    return area && area->pasteItems();
 }
 
 void ScheduleRouter::selectAllItems()

@@ -18,8 +18,8 @@ class ZvTimeTableTimeItem;
 
 /// The schedule side of the central widget: routes every command to the current page, does nothing
 /// if there is none, and relays what the pages report, so that docks never meet a page. Which page
-/// is current is its subclass's to say. It owns the undo group, in which each page has its stack;
-/// the actions that it enables belong to the editor.
+/// is current is its subclass's to say, and what can be undone is ScheduleRecorder's. It owns the
+/// undo group, in which each page has its stack; the actions that it enables belong to the editor.
 class ScheduleRouter : public QWidget, public ZvScheduleCommonInterface
 {
     Q_OBJECT
@@ -36,9 +36,7 @@ public:
     QList<QAction *> findActions(const QStringList &names) const;
 
     SelectedType hasSelectedItems() const override;
-    void deleteSelectedItems() override;
     bool copySelectedItems() override;
-    bool cutSelectedItems() override;
     bool isPastingPossible() const override;
     bool pasteItems() override;
     void selectAllItems() override;
@@ -121,7 +119,7 @@ protected:
     QList<QAction *> actionList() const;
 
     /// Connects what @p area reports and asks for. Called once for each page.
-    void connectWorkingArea(ZvScheduleWorkingArea *area);
+    virtual void connectWorkingArea(ZvScheduleWorkingArea *area);
 
     /// Makes the undo stack of @p area the active one and lets it show the schedule that is chosen.
     void showWorkingArea(ZvScheduleWorkingArea *area);

@@ -28,7 +28,7 @@ constexpr int RetryDelay = 1; // ms
 } // namespace
 
 ZvScheduleMainWidget::ZvScheduleMainWidget(QWidget *parent)
-    : ScheduleRouter(parent)
+    : ScheduleRecorder(parent)
     , m_channelIcon(QStringLiteral(":/images/channel.svg"))
 {
 }

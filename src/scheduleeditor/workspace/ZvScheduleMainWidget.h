@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workspace/ScheduleRouter.h"
+#include "workspace/ScheduleRecorder.h"
 
 #include <QIcon>
 #include <QMap>
@@ -17,7 +17,7 @@ class ZvScheduleTabWidget;
 /// and saves them; what reaches the schedule of the current tab is its base class's. The editor
 /// creates it and hands it the shared actions and the edit menu before there are tabs; neither is
 /// owned.
-class ZvScheduleMainWidget final : public ScheduleRouter
+class ZvScheduleMainWidget final : public ScheduleRecorder
 {
     Q_OBJECT
 
