@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QGraphicsView>
+#include <QPointer>
 #include <QTimer>
 
 class QLabel;
@@ -63,7 +64,7 @@ private:
     QGraphicsItem *m_baseItem = nullptr;
     QLabel *m_noScheduleLabel = nullptr;
     QTimer m_movingKeyTimer;
-    QMenu *m_contextMenu = nullptr;
+    QPointer<QMenu> m_contextMenu;
     QPoint m_lastReleasePos;
 };
 
