@@ -1,7 +1,8 @@
 #include "storage/ScheduleOrder.h"
 
+#include "storage/BandFinder.h"
+
 #include <algorithm>
-#include <tuple>
 
 namespace Zavo::ScheduleOrder {
 
@@ -41,49 +42,16 @@ QTime onWholeSecond(QTime time)
     if (!time.isValid())
         return time;
     const int ms = time.msecsSinceStartOfDay();
-    const int nearest = (ms + MsPerSecond / 2) / MsPerSecond * MsPerSecond;
-    if (qAbs(ms - nearest) > ZvTime::ToleranceMs)
-        return time;
     // The last millisecond stands for 24 o'clock.
-    return QTime::fromMSecsSinceStartOfDay(qMin(nearest, MsPerDay - 1));
+    const int nearest = qMin((ms + MsPerSecond / 2) / MsPerSecond * MsPerSecond, MsPerDay - 1);
+    return qAbs(ms - nearest) > ZvTime::ToleranceMs ? time
+                                                    : QTime::fromMSecsSinceStartOfDay(nearest);
 }
 
 ZvTime onWholeSeconds(const ZvTime &band)
 {
     return {onWholeSecond(band.startTime()), onWholeSecond(band.endTime()), band.stageName()};
 }
-
-/// Finds the bands of a list in another, both sorted by start, in one walk over the two.
-class BandFinder
-{
-public:
-    explicit BandFinder(const QList<ZvTime> &stored)
-        : m_stored(stored)
-    {
-    }
-
-    const ZvTime *find(const ZvTime &band)
-    {
-        if (m_next < m_stored.size() && m_stored.at(m_next) == band)
-            return &m_stored.at(m_next++);
-        const int from = startMs(band) - ZvTime::ToleranceMs;
-        const int to = startMs(band) + ZvTime::ToleranceMs;
-        while (m_first < m_stored.size() && startMs(m_stored.at(m_first)) < from)
-            ++m_first;
-        for (int i = m_first; i < m_stored.size() && startMs(m_stored.at(i)) <= to; ++i) {
-            if (m_stored.at(i) == band) {
-                m_next = i + 1;
-                return &m_stored.at(i);
-            }
-        }
-        return nullptr;
-    }
-
-private:
-    const QList<ZvTime> &m_stored;
-    int m_first = 0; // before it, all bands start too early
-    int m_next = 0;  // most often the one that is asked for
-};
 } // namespace
 
 bool isPlaceable(const ZvSchedule &schedule)
