@@ -30,6 +30,7 @@ private Q_SLOTS:
     void pictureByALinkInsideTheFolder();
     void pictureByALinkOutOfTheFolder();
     void pictureOfAnotherFormat();
+    void pictureThatIsCutOff();
     void pictureBeyondTheLargestSize();
     void samePictureIsDecodedOnce();
     void picturesBeyondTheMemoryOfOneStage();
@@ -296,6 +297,16 @@ void tst_ZvStage::pictureOfAnotherFormat()
     QVERIFY(onlyPicture("p.png").isNull());
     write(QStringLiteral("text.png"), "no picture");
     QVERIFY(onlyPicture("text.png").isNull());
+}
+
+void tst_ZvStage::pictureThatIsCutOff()
+{
+    QFile whole(writePicture(QStringLiteral("p.png"), {300, 300}));
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    whole.close();
+    write(QStringLiteral("p.png"), bytes.left(bytes.size() / 2));
+    QVERIFY(onlyPicture("p.png").isNull());
 }
 
 void tst_ZvStage::pictureBeyondTheLargestSize()

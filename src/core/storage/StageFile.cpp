@@ -27,12 +27,42 @@ bool parse(const QByteArray &bytes, const StagePictures &pictures, StageRecord *
     return true;
 }
 
+/// The bytes of a package as the archive library wants them. It goes in circles over some that are
+/// damaged: a place behind the end is the end here, and after more steps than any sound package
+/// needs nothing is read any more.
+class PackageDevice final : public QBuffer
+{
+public:
+    explicit PackageDevice(QByteArray *bytes)
+        : QBuffer(bytes)
+        , m_stepsLeft(StepsPerByte * qint64(bytes->size()) + StepsOfAnyPackage)
+    {
+    }
+
+    bool seek(qint64 position) override
+    {
+        return --m_stepsLeft > 0 && QBuffer::seek(qBound<qint64>(0, position, size()));
+    }
+
+protected:
+    qint64 readData(char *data, qint64 length) override
+    {
+        return --m_stepsLeft > 0 ? QBuffer::readData(data, length) : -1;
+    }
+
+private:
+    static constexpr qint64 StepsPerByte = 4;
+    static constexpr qint64 StepsOfAnyPackage = 100000;
+
+    qint64 m_stepsLeft;
+};
+
 bool readPackage(QByteArray &bytes, StageRecord *record)
 {
     // Counted before they are listed, since each takes memory of its own.
     if (bytes.count(EntrySignature) > MaximumPackageEntries)
         return false;
-    QBuffer buffer(&bytes);
+    PackageDevice buffer(&bytes);
     KZip package(&buffer);
     if (!buffer.open(QIODevice::ReadOnly) || !package.open(QIODevice::ReadOnly))
         return false;
