@@ -68,6 +68,7 @@ private Q_SLOTS:
     void heldKeyIsOneStep();
     void twoKeyPressesApartAreTwoSteps();
     void pressHoldsTheStepOpen();
+    void lostFocusClosesTheStep();
     void keysWithoutSelectionScroll();
     void otherKeysDoNotMove();
     void timeFollowsTheCursor();
@@ -270,6 +271,24 @@ void tst_ZvTimeTableView::twoKeyPressesApartAreTwoSteps()
     QTest::keyClick(table.view(), Qt::Key_Down);
     QVERIFY(spy.wait());
     QCOMPARE(spy.count(), 2);
+}
+
+void tst_ZvTimeTableView::lostFocusClosesTheStep()
+{
+    TimeTableFixture table;
+    QVERIFY(table.fill(threeBands()));
+    table.select({1});
+    const QSignalSpy spy(table.view(), SIGNAL(keyReleasedWithItemMoved()));
+    QFocusEvent focusOut(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(table.view(), &focusOut);
+    QTest::qWait(2 * stepDelay);
+    QCOMPARE(spy.count(), 0);
+
+    QTest::keyPress(table.view(), Qt::Key_Up);
+    QCoreApplication::sendEvent(table.view(), &focusOut);
+    QTRY_COMPARE(spy.count(), 1);
+    QTest::qWait(2 * stepDelay);
+    QCOMPARE(spy.count(), 1);
 }
 
 void tst_ZvTimeTableView::pressHoldsTheStepOpen()

@@ -115,6 +115,7 @@ void ZvTimeTableView::keyPressEvent(QKeyEvent *event)
         return;
     }
     m_movingKeyTimer.stop();
+    m_isMovingByKey = true;
     const double step = 1.0 / transform().m22();
     const double dy = event->key() == Qt::Key_Up ? -step : step;
     timeTableScene()->moveSelectedTimeItems(QPointF(0.0, dy), QPointF());
@@ -131,9 +132,19 @@ void ZvTimeTableView::keyReleaseEvent(QKeyEvent *event)
     event->accept();
 }
 
+void ZvTimeTableView::focusOutEvent(QFocusEvent *event)
+{
+    // The release of a held key goes to whoever has the focus then; the move is complete all the
+    // same.
+    if (m_isMovingByKey)
+        m_movingKeyTimer.start();
+    QGraphicsView::focusOutEvent(event);
+}
+
 void ZvTimeTableView::onMovingKeyCheckingTimerEvent()
 {
     m_movingKeyTimer.stop();
+    m_isMovingByKey = false;
     Q_EMIT keyReleasedWithItemMoved();
 }
 

@@ -50,6 +50,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private Q_SLOTS:
     void onHrozontalScrollBarValueChanged(int value);
@@ -64,6 +65,7 @@ private:
     QGraphicsItem *m_baseItem = nullptr;
     QLabel *m_noScheduleLabel = nullptr;
     QTimer m_movingKeyTimer;
+    bool m_isMovingByKey = false;
     QPointer<QMenu> m_contextMenu;
     QPoint m_lastReleasePos;
 };
