@@ -43,7 +43,6 @@ TimeTablePage::TimeTablePage(QWidget *parent)
     layout->addWidget(m_view);
     layout->addWidget(m_statusBar);
     createTimeTable();
-    setScheduleEnabled(false);
     connectParts();
     setFocusPolicy(Qt::StrongFocus);
 }

@@ -33,6 +33,8 @@ WorkingAreaHeader::WorkingAreaHeader(QWidget *parent)
 {
     setObjectName(QStringLiteral("HeaderWidget"));
     m_titleLabel->setTextFormat(Qt::PlainText);
+    showTitleFont(false);
+    m_defaultStageWidget->setEnabled(false);
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -67,12 +69,17 @@ void WorkingAreaHeader::setTitle(const QString &title)
     m_titleLabel->setText(title);
 }
 
-void WorkingAreaHeader::setScheduleEnabled(bool enabled)
+void WorkingAreaHeader::showTitleFont(bool enabled)
 {
     QFont font = m_titleLabel->font();
     font.setWeight(enabled ? QFont::Bold : QFont::Normal);
     font.setItalic(!enabled);
     m_titleLabel->setFont(font);
+}
+
+void WorkingAreaHeader::setScheduleEnabled(bool enabled)
+{
+    showTitleFont(enabled);
     m_createWidget->setVisible(!enabled);
     m_defaultStageWidget->setEnabled(enabled);
 }

@@ -16,6 +16,7 @@ class WorkingAreaHeader final : public QWidget
     Q_OBJECT
 
 public:
+    /// With the look of a schedule that does not exist.
     explicit WorkingAreaHeader(QWidget *parent = nullptr);
 
     QAbstractButton *createButton() const { return m_createButton; }
@@ -27,6 +28,7 @@ public:
 
 private:
     QWidget *newCreateWidget();
+    void showTitleFont(bool enabled);
 
     QLabel *m_titleLabel;
     QAbstractButton *m_createButton = nullptr;

@@ -12,14 +12,16 @@ namespace {
 constexpr double scales[] = {0.25, 0.5, 1.0, 2.0, 3.0, 6.0, 10.0, 15.0, 30.0, 60.0};
 constexpr int initialScaleIndex = 2;
 
-QWidget *newPart(QWidget *parent)
+// A part is added while it is empty: the bar lays itself out at every addition, and a style sheet
+// polishes all children anew.
+QLayout *addPart(QStatusBar *bar)
 {
-    auto *part = new QWidget(parent);
-    // Before there are children, which would all be polished anew.
+    auto *part = new QWidget(bar);
     part->setStyleSheet(QStringLiteral("QLabel {font-size: 9.0pt;}"));
     auto *layout = new QHBoxLayout(part);
     layout->setContentsMargins(0, 0, 0, 0);
-    return part;
+    bar->addWidget(part, 0);
+    return layout;
 }
 
 } // namespace
@@ -28,33 +30,31 @@ WorkingAreaStatusBar::WorkingAreaStatusBar(QWidget *parent)
     : QStatusBar(parent)
 {
     setSizeGripEnabled(false);
-    addWidget(newScaleWidget(), 0);
+    QLayout *scalePart = addPart(this);
     addWidget(new QWidget(this), 1);
-    addWidget(newCursorTimeWidget(), 0);
+    QLayout *cursorTimePart = addPart(this);
+    createScale(scalePart);
+    createCursorTime(cursorTimePart);
 }
 
-QWidget *WorkingAreaStatusBar::newScaleWidget()
+void WorkingAreaStatusBar::createScale(QLayout *part)
 {
-    QWidget *part = newPart(this);
-    m_scaleComboBox = new QComboBox(part);
+    m_scaleComboBox = new QComboBox(part->parentWidget());
     for (const double scale : scales)
         m_scaleComboBox->addItem(QStringLiteral("%1%").arg(scale * 100.0), scale);
     m_scaleComboBox->setCurrentIndex(initialScaleIndex);
-    part->layout()->addWidget(new QLabel(tr("Scale"), part));
-    part->layout()->addWidget(m_scaleComboBox);
-    return part;
+    part->addWidget(new QLabel(tr("Scale"), part->parentWidget()));
+    part->addWidget(m_scaleComboBox);
 }
 
-QWidget *WorkingAreaStatusBar::newCursorTimeWidget()
+void WorkingAreaStatusBar::createCursorTime(QLayout *part)
 {
-    QWidget *part = newPart(this);
-    m_cursorTimeLabel = new QLabel(QStringLiteral("--:--:--"), part);
+    m_cursorTimeLabel = new QLabel(QStringLiteral("--:--:--"), part->parentWidget());
     QFont font(QStringLiteral("Monospace"));
     font.setStyleHint(QFont::TypeWriter, QFont::PreferDefault);
     m_cursorTimeLabel->setFont(font);
-    part->layout()->addWidget(new QLabel(tr("Cursor Position Time:"), part));
-    part->layout()->addWidget(m_cursorTimeLabel);
-    return part;
+    part->addWidget(new QLabel(tr("Cursor Position Time:"), part->parentWidget()));
+    part->addWidget(m_cursorTimeLabel);
 }
 
 double WorkingAreaStatusBar::scaleAt(int index) const

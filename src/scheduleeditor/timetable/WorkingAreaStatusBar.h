@@ -4,6 +4,7 @@
 
 class QComboBox;
 class QLabel;
+class QLayout;
 
 namespace Zavo {
 
@@ -25,8 +26,8 @@ public:
     void setTimeString(const QString &timeString);
 
 private:
-    QWidget *newScaleWidget();
-    QWidget *newCursorTimeWidget();
+    void createScale(QLayout *part);
+    void createCursorTime(QLayout *part);
 
     QComboBox *m_scaleComboBox = nullptr;
     QLabel *m_cursorTimeLabel = nullptr;
