@@ -117,8 +117,12 @@ void tst_ZvScheduleWorkingArea::startsWithoutASchedule()
     QCOMPARE(page.area()->currentScheduleName(), QString());
     QCOMPARE(page.area()->currentTimes(), QList<ZvTime>());
     QCOMPARE(page.area()->focusPolicy(), Qt::StrongFocus);
+    QVERIFY(page.child<QToolButton>()->isVisible());
+    QVERIFY(page.view()->findChild<QLabel *>()->isVisible());
+    QVERIFY(!page.box()->isEnabled());
     const auto *title = page.child<QWidget>(QStringLiteral("HeaderWidget"))->findChild<QLabel *>();
     QCOMPARE(title->text(), QStringLiteral("Schedule of ..."));
+    QVERIFY(title->font().italic());
 }
 
 void tst_ZvScheduleWorkingArea::isLaidOut()

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void givesUpTheScene();
     void standsTheLossOfItsScene();
     void takenSceneReportsNothing();
+    void standsATakeoverInTheMiddleOfASwitch();
     void standsASceneThatIsDeleted();
     void purgesTheSceneWhenItDies();
     void purgesNothingTwice();
@@ -173,6 +174,22 @@ void tst_ZvScheduleWorkingAreaLifecycle::takenSceneReportsNothing()
     held->removeAllTimeItems();
     WorkingAreaFixture::settle();
     QCOMPARE(log.names(), QStringList());
+}
+
+void tst_ZvScheduleWorkingAreaLifecycle::standsATakeoverInTheMiddleOfASwitch()
+{
+    WorkingAreaFixture page({scheduleOf(defaultInfo, bands), scheduleOf(mondayInfo, bands)});
+    page.area()->switchToDefaultSchedule();
+    std::unique_ptr<QGraphicsScene> scene;
+    connect(page.area(), &ZvScheduleWorkingArea::scheduleStageCountChanged, page.area(),
+            [&page, &scene] {
+                if (!scene)
+                    scene.reset(page.area()->takeScene());
+            });
+    page.area()->switchToWeekDaySchedule(Qt::Monday);
+    QVERIFY(scene);
+    QVERIFY(!page.area()->isCurrentScheduleEnabled());
+    QCOMPARE(page.storedTexts(mondayInfo), textOf(bands));
 }
 
 void tst_ZvScheduleWorkingAreaLifecycle::standsASceneThatIsDeleted()

@@ -285,7 +285,8 @@ bool TimeTablePage::switchSchedule(const ZvSchedule &schedule)
     if (schedule.isEmpty() && schedule.type() != ZvSchedule::Default)
         return false;
     box->setStageName(schedule.defaultStage());
-    return m_scene->insertTimeItems(schedule.timeList());
+    // A listener of these changes may have taken the scene.
+    return m_scene && m_scene->insertTimeItems(schedule.timeList());
 }
 
 void TimeTablePage::setDefaultStageName(const QString &name)
