@@ -1,0 +1,155 @@
+#include "Bench.h"
+#include "timetable/BareTimeTable.h"
+#include "timetable/DenseDay.h"
+#include "timetable/Operations.h"
+#include "timetable/OwnTimeTable.h"
+
+#include <QApplication>
+
+#include <malloc.h>
+
+namespace {
+
+constexpr int counts[] = {24, 288, 1440, 4320};
+constexpr int fewBands = 24;
+constexpr int leastCountOfMemory = 1440;
+constexpr double memoryGoal = 0.9;
+
+/// A line of the table for each count. The limit is the plain operation of the same name, or our
+/// own loading of as many bands.
+struct Figure
+{
+    const char *label;
+    const char *operation;
+    bool againstOwnLoad;
+    double goalOfFew; ///< 0 where few bands are not measured
+    double goal;
+};
+
+constexpr Figure figures[] = {
+    {"switch to a schedule, first frame / bare", "switch", false, 0.9, 0.6},
+    {"first load, no labels kept / bare", "firstLoad", false, 0.9, 0.6},
+    {"full repaint at 100% / bare", "repaint", false, 0.0, 0.4},
+    {"full repaint at 6000% / bare", "repaintSeconds", false, 0.8, 0.8},
+    {"group drag step at 100% / bare", "groupStep", false, 0.0, 0.4},
+    {"drag step of one band at 6000% / bare", "bandStep", false, 0.8, 0.8},
+    {"select all / bare", "selectAll", false, 0.0, 0.4},
+    {"clear / bare", "clear", false, 0.0, 0.6},
+    {"insert n/2 in front of n/2 / own load", "insertFront", true, 0.0, 1.2},
+    {"remove the first n/2 / own load", "removeFront", true, 0.0, 1.2},
+    {"undo of a move of all / own load", "undoMove", true, 0.0, 1.2},
+};
+
+int pairsOf(int count)
+{
+    if (count <= 288)
+        return Bench::Table::DefaultPairs;
+    return count <= 1440 ? 9 : 5;
+}
+
+const Operation &operationOf(const QVector<Operation> &operations, const QString &name)
+{
+    const auto found =
+        std::find_if(operations.cbegin(), operations.cend(),
+                     [&name](const Operation &operation) { return operation.name == name; });
+    if (found == operations.cend())
+        qFatal("no operation %s", qPrintable(name));
+    return *found;
+}
+
+std::function<double()> timed(const Operation &operation)
+{
+    return [&operation] {
+        operation.prepare();
+        return Bench::measureProcessor(operation.work);
+    };
+}
+
+void addFigure(Bench::Table *table, const Figure &figure, int count, const QVector<Operation> &own,
+               const QVector<Operation> &bare)
+{
+    const double goal = count == fewBands ? figure.goalOfFew : figure.goal;
+    if (goal == 0.0)
+        return;
+    const QString name = QString::fromLatin1(figure.operation);
+    const Operation &ours = operationOf(own, name);
+    const Operation &limit =
+        figure.againstOwnLoad ? operationOf(own, QStringLiteral("load")) : operationOf(bare, name);
+    table->addFigures({QString::fromLatin1(figure.label), count, goal}, timed(limit), timed(ours),
+                      pairsOf(count));
+    limit.finish();
+    ours.finish();
+}
+
+/// Bytes of the heap that a band takes once it was painted.
+template<typename Table>
+double memoryOfBand(Table *table, int count)
+{
+    table->clear();
+    table->settle();
+    OwnTimeTable::forgetKeptLabels();
+    const auto before = mallinfo2().uordblks;
+    table->load(DenseDay::bands(count));
+    table->settle();
+    table->repaint();
+    return static_cast<double>(mallinfo2().uordblks - before) / count;
+}
+
+void addMemory(Bench::Table *table, int count, OwnTimeTable *own, BareTimeTable *bare)
+{
+    constexpr int pairs = 3;
+    table->addFigures(
+        {QStringLiteral("memory a band, bytes / bare"), count, memoryGoal},
+        [=] { return memoryOfBand(bare, count); }, [=] { return memoryOfBand(own, count); }, pairs);
+}
+
+void measure(Bench::Table *table, int count)
+{
+    OwnTimeTable own(count);
+    BareTimeTable bare(own.viewSize());
+    bare.load(DenseDay::bands(count));
+    bare.settle();
+    const QVector<Operation> ownOperations = operationsOf(&own, count);
+    const QVector<Operation> bareOperations = operationsOf(&bare, count);
+    for (const Figure &figure : figures)
+        addFigure(table, figure, count, ownOperations, bareOperations);
+    if (count >= leastCountOfMemory)
+        addMemory(table, count, &own, &bare);
+}
+
+/// Does one operation, for a profiler that collects within this function alone.
+extern "C" __attribute__((noinline)) void measuredOperation(const std::function<void()> *work)
+{
+    (*work)();
+    asm volatile(""); // no tail call: the profiler waits for the return
+}
+
+void doOnce(const QString &name, int count)
+{
+    OwnTimeTable own(count);
+    const QVector<Operation> operations = operationsOf(&own, count);
+    const Operation &operation = operationOf(operations, name);
+    operation.prepare();
+    measuredOperation(&operation.work);
+    operation.finish();
+}
+
+} // namespace
+
+/// Without arguments the table; with --check the exit status says whether the goals hold; with
+/// --once OPERATION COUNT one operation, for a profiler.
+int main(int argc, char *argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--once")) {
+        doOnce(arguments.value(2), arguments.value(3).toInt());
+        return 0;
+    }
+    Bench::Table table(arguments);
+    for (const int count : counts)
+        measure(&table, count);
+    return table.finish();
+}
