@@ -47,7 +47,7 @@ int pairsOf(int count)
     return count <= 1440 ? 9 : 5;
 }
 
-const Operation &operationOf(const QVector<Operation> &operations, const QString &name)
+Operation operationOf(const QVector<Operation> &operations, const QString &name)
 {
     const auto found =
         std::find_if(operations.cbegin(), operations.cend(),
@@ -59,7 +59,7 @@ const Operation &operationOf(const QVector<Operation> &operations, const QString
 
 std::function<double()> timed(const Operation &operation)
 {
-    return [&operation] {
+    return [operation] {
         operation.prepare();
         return Bench::measureProcessor(operation.work);
     };
@@ -72,7 +72,7 @@ void addFigure(Bench::Table *table, const Figure &figure, int count, const QVect
     if (goal == 0.0)
         return;
     const QString name = QString::fromLatin1(figure.operation);
-    const Operation &ours = operationOf(own, name);
+    const Operation ours = operationOf(own, name);
     const Operation &limit =
         figure.againstOwnLoad ? operationOf(own, QStringLiteral("load")) : operationOf(bare, name);
     table->addFigures({QString::fromLatin1(figure.label), count, goal}, timed(limit), timed(ours),
@@ -124,20 +124,32 @@ extern "C" __attribute__((noinline)) void measuredOperation(const std::function<
     asm volatile(""); // no tail call: the profiler waits for the return
 }
 
-void doOnce(const QString &name, int count)
+void doOnce(const Operation &operation)
 {
-    OwnTimeTable own(count);
-    const QVector<Operation> operations = operationsOf(&own, count);
-    const Operation &operation = operationOf(operations, name);
+    operation.prepare();
+    operation.work();
     operation.prepare();
     measuredOperation(&operation.work);
     operation.finish();
 }
 
+void doOnce(const QString &name, int count, bool plain)
+{
+    OwnTimeTable own(count);
+    if (!plain) {
+        doOnce(operationOf(operationsOf(&own, count), name));
+        return;
+    }
+    BareTimeTable bare(own.viewSize());
+    bare.load(DenseDay::bands(count));
+    bare.settle();
+    doOnce(operationOf(operationsOf(&bare, count), name));
+}
+
 } // namespace
 
 /// Without arguments the table; with --check the exit status says whether the goals hold; with
-/// --once OPERATION COUNT one operation, for a profiler.
+/// --once OPERATION COUNT [--bare] one operation, ours or the plain one, for a profiler.
 int main(int argc, char *argv[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -145,7 +157,8 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1String("--once")) {
-        doOnce(arguments.value(2), arguments.value(3).toInt());
+        doOnce(arguments.value(2), arguments.value(3).toInt(),
+               arguments.contains(QStringLiteral("--bare")));
         return 0;
     }
     Bench::Table table(arguments);

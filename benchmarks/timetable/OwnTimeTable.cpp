@@ -20,6 +20,7 @@ using namespace Zavo;
 namespace {
 
 constexpr QSize pageSize{900, 700};
+constexpr int turnsUntilLabelled = 10;
 const QDate firstDate(2040, 1, 2);
 
 ZvScheduleBasicInfo infoOf(bool second)
@@ -158,7 +159,9 @@ void OwnTimeTable::look(double scale, int index)
     auto *box = m_area->findChild<QComboBox *>();
     box->setCurrentIndex(box->findData(scale));
     m_view->centerOn(items().at(index));
-    settle();
+    // The labels of a new scale come from the event loop, some at each of its turns.
+    for (int turn = 0; turn < turnsUntilLabelled; ++turn)
+        settle();
 }
 
 void OwnTimeTable::selectOne(int index)
