@@ -19,7 +19,8 @@ constexpr char startAttribute[] = "Start";
 constexpr char endAttribute[] = "End";
 constexpr char defaultType[] = "default";
 
-constexpr int maximumDepth = 64;          // ours are four deep
+constexpr int maximumDepth = 16;          // ours are four deep
+constexpr int maximumAttributeCount = 16; // ours have three
 constexpr int maximumTagSize = 64 * 1024; // bytes, with the text up to the next tag
 
 QString latin(const char *text)
@@ -59,14 +60,39 @@ void applyType(const QString &type, ZvSchedule *schedule)
         schedule->setDayOfWeek(static_cast<Weekday::Days>(day));
 }
 
-/// @p xml up to a tag that is longer than any of ours: the stream reader compares all attributes of
-/// a tag with each other, so that its time would grow with the square of their number.
-QByteArray upToOversizedTag(const QByteArray &xml)
+int attributeCount(const char *tag, const char *end)
+{
+    int count = 0;
+    char quote = '\0';
+    for (; tag != end && (quote != '\0' || *tag != '>'); ++tag) {
+        if (*tag == quote) {
+            quote = '\0';
+        } else if (quote == '\0' && (*tag == '"' || *tag == '\'')) {
+            quote = *tag;
+            ++count;
+        }
+    }
+    return count;
+}
+
+/// Whether a tag could be ours. @p end is where the next one begins.
+bool isReasonableTag(const char *tag, const char *end)
+{
+    if (end - tag > maximumTagSize)
+        return false;
+    const bool isElement = end - tag > 1 && tag[1] != '!' && tag[1] != '?';
+    return !isElement || attributeCount(tag, end) <= maximumAttributeCount;
+}
+
+/// @p xml up to a tag that is none of ours: the stream reader compares all attributes of a tag with
+/// each other, so that its time would grow with the square of their number.
+QByteArray upToUnreasonableTag(const QByteArray &xml)
 {
     int tag = xml.indexOf('<');
     while (tag >= 0) {
         const int next = xml.indexOf('<', tag + 1);
-        if ((next < 0 ? xml.size() : next) - tag > maximumTagSize)
+        const int end = next < 0 ? xml.size() : next;
+        if (!isReasonableTag(xml.constData() + tag, xml.constData() + end))
             return xml.left(tag);
         tag = next;
     }
@@ -125,7 +151,7 @@ void ClipboardXmlWriter::writeTimeData(const QList<ZvTime> &times)
 
 ClipboardXmlReader::ClipboardXmlReader(const QByteArray &xml, int maximumScheduleCount,
                                        int maximumTimeCount)
-    : m_reader(upToOversizedTag(xml))
+    : m_reader(upToUnreasonableTag(xml))
     , m_maximumScheduleCount(maximumScheduleCount)
     , m_maximumTimeCount(maximumTimeCount)
 {
