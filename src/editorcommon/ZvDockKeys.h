@@ -3,10 +3,8 @@
 #include <QString>
 #include <QUrl>
 
-namespace Zavo {
-
 /// The keys under which the state of docks is kept in the user's settings.
-namespace DockKeys {
+namespace Zavo::DockKeys {
 
 constexpr char Area[] = "Area";
 constexpr char Floating[] = "Floating";
@@ -47,5 +45,4 @@ inline QString ofGroup(const QString &name, int number, const char *key)
     return QStringLiteral("%1/%2/%3").arg(tabs(name), QString::number(number), QLatin1String(key));
 }
 
-} // namespace DockKeys
-} // namespace Zavo
+} // namespace Zavo::DockKeys

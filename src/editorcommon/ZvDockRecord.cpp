@@ -48,6 +48,18 @@ std::optional<int> storedInt(const QString &dockName, const char *key)
     return isInt ? std::optional<int>(value) : std::nullopt;
 }
 
+std::optional<Qt::DockWidgetArea> storedArea(const QString &dockName)
+{
+    const std::optional<int> value = storedInt(dockName, DockKeys::Area);
+    for (const Qt::DockWidgetArea area :
+         {Qt::NoDockWidgetArea, Qt::LeftDockWidgetArea, Qt::RightDockWidgetArea,
+          Qt::TopDockWidgetArea, Qt::BottomDockWidgetArea}) {
+        if (value == static_cast<int>(area))
+            return area;
+    }
+    return std::nullopt;
+}
+
 std::optional<bool> storedBool(const QString &dockName, const char *key)
 {
     const QString value = stored(dockName, key).toString();
@@ -94,9 +106,10 @@ std::optional<ZvDockRecord> ZvDockRecord::load(QDockWidget *dock, QMainWindow *w
     const std::optional<ZvDockRecord> record = read(dock->objectName());
     if (!record || !record->isUsableIn(*window) || !record->isOfTheseScreens(window))
         return std::nullopt;
-    if (record->floating)
-        return record->canBeReached() ? record : std::nullopt;
-    return dock->isAreaAllowed(record->area) ? record : std::nullopt;
+    const bool isAllowed =
+        record->area == Qt::NoDockWidgetArea || dock->isAreaAllowed(record->area);
+    const bool isInReach = !record->floating || record->canBeReached();
+    return isAllowed && isInReach ? record : std::nullopt;
 }
 
 void ZvDockRecord::save(const QString &dockName) const
@@ -115,7 +128,7 @@ void ZvDockRecord::save(const QString &dockName) const
 
 std::optional<ZvDockRecord> ZvDockRecord::read(const QString &dockName)
 {
-    const auto area = storedInt(dockName, DockKeys::Area);
+    const auto area = storedArea(dockName);
     const auto floating = storedBool(dockName, DockKeys::Floating);
     const auto visible = storedBool(dockName, DockKeys::Visible);
     const auto geometry = storedRect(dockName, DockKeys::Geometry);
@@ -124,13 +137,7 @@ std::optional<ZvDockRecord> ZvDockRecord::read(const QString &dockName)
     const auto dpiRatio = storedDouble(dockName, DockKeys::DpiRatio);
     if (!area || !floating || !visible || !geometry || !order || !screen || !dpiRatio)
         return std::nullopt;
-    return ZvDockRecord{static_cast<Qt::DockWidgetArea>(*area),
-                        *floating,
-                        *visible,
-                        *geometry,
-                        *order,
-                        *screen,
-                        *dpiRatio};
+    return ZvDockRecord{*area, *floating, *visible, *geometry, *order, *screen, *dpiRatio};
 }
 
 bool ZvDockRecord::isUsableIn(const QMainWindow &window) const
@@ -139,14 +146,12 @@ bool ZvDockRecord::isUsableIn(const QMainWindow &window) const
     QSize largest = window.size() * 2;
     if (const QScreen *shown = QGuiApplication::primaryScreen())
         largest = largest.expandedTo(shown->virtualSize());
-    const bool isKnownArea = area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea ||
-                             area == Qt::TopDockWidgetArea || area == Qt::BottomDockWidgetArea;
     const bool hasSize = geometry.width() > 0 && geometry.height() > 0 &&
                          geometry.width() <= largest.width() &&
                          geometry.height() <= largest.height();
     if (floating)
-        return hasSize && (isKnownArea || area == Qt::NoDockWidgetArea);
-    return isKnownArea && (hasSize || geometry.isNull());
+        return hasSize;
+    return area != Qt::NoDockWidgetArea && (hasSize || geometry.isNull());
 }
 
 bool ZvDockRecord::isOfTheseScreens(QMainWindow *window) const

@@ -49,7 +49,7 @@ QRect ZvDockSizes::shownGeometry(QDockWidget *dock, QMainWindow *window)
     if (sizes) {
         for (const Wish &wish : sizes->m_wishes) {
             if (wish.dock == dock)
-                return QRect(QPoint(), wish.size);
+                return {QPoint(), wish.size};
         }
     }
     const ZvDockArrangement::Cell cell = ZvDockArrangement::of(*window).cellOf(dock);

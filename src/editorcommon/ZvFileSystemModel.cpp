@@ -377,8 +377,10 @@ void ZvFileSystemModel::update()
 
 void ZvFileSystemModel::onFoldersChanged(const QStringList &folders)
 {
-    if (m_updatePending)
-        return update();
+    if (m_updatePending) {
+        update();
+        return;
+    }
     for (const QString &folder : folders) {
         ZvFileSystemNode *node = nodeAtPath(folder);
         if (node && node->isListed())

@@ -56,11 +56,14 @@ void paintItem(QPainter &painter, const ZvStageItem &item)
 {
     switch (item.kind) {
     case ZvStageItem::Rectangle:
-        return paintRectangle(painter, item);
+        paintRectangle(painter, item);
+        break;
     case ZvStageItem::Text:
-        return ZvStageText::paint(painter, item);
+        ZvStageText::paint(painter, item);
+        break;
     case ZvStageItem::Picture:
-        return paintPicture(painter, item);
+        paintPicture(painter, item);
+        break;
     }
 }
 } // namespace

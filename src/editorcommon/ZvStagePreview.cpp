@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QPainter>
 
+#include <utility>
+
 namespace Zavo {
 
 namespace {
@@ -30,7 +32,7 @@ void ZvStagePreview::clear()
 
 void ZvStagePreview::setStage(ZvStage stage)
 {
-    m_stage = stage;
+    m_stage = std::move(stage);
     m_picture = QPixmap();
     update();
 }

@@ -177,7 +177,8 @@ void tst_DockDamage::damagedRecordLeavesTheDefault_data()
     row("order in words", "Order", QStringLiteral("first"));
     row("order beyond", "Order", 1e300);
     row("screen in words", "Screen", QStringLiteral("big"));
-    row("screen beyond reckoning", "Screen", QRect(smallest, largest, largest, largest));
+    row("screen beyond reckoning", "Screen",
+        QRect(QPoint(smallest, largest), QPoint(largest, smallest)));
     row("ratio that is none", "DpiRatio", QStringLiteral("nan"));
     row("infinite ratio", "DpiRatio", QStringLiteral("inf"));
     row("ratio in words", "DpiRatio", QStringLiteral("two"));
@@ -295,9 +296,12 @@ void tst_DockDamage::forbiddenAreaLeavesTheDefault()
     storeUnusual(settings);
     for (const Qt::DockWidgetArea area : {Qt::TopDockWidgetArea, Qt::BottomDockWidgetArea}) {
         settings->setValue(switcherGroup + QStringLiteral("Area"), int(area));
+        settings->setValue(itemGroup + QStringLiteral("Area"), int(area));
         DockWindow window;
         window.restore();
         QCOMPARE(window.dockWidgetArea(window.switcher), Qt::LeftDockWidgetArea);
+        QCOMPARE(window.dockWidgetArea(window.item), Qt::RightDockWidgetArea);
+        QVERIFY(!window.item->isFloating());
     }
 }
 
@@ -391,14 +395,15 @@ void tst_DockDamage::randomValuesDoNoHarm()
     const QStringList keys = settings->allKeys();
     for (int i = 0; i < 12; ++i) {
         const QString key = keys.at(random.bounded(keys.size()));
-        const QVector<QVariant> values{number(),
-                                       QRect(number(), number(), number(), number()),
-                                       double(number()) * 1e9,
-                                       bool(random.bounded(2)),
-                                       names.at(random.bounded(names.size())),
-                                       names,
-                                       QByteArray(random.bounded(40), char(random.bounded(256))),
-                                       QVariant()};
+        const QVector<QVariant> values{
+            number(),
+            QRect(QPoint(number(), number()), QPoint(number(), number())),
+            double(number()) * 1e9,
+            bool(random.bounded(2)),
+            names.at(random.bounded(names.size())),
+            names,
+            QByteArray(random.bounded(40), char(random.bounded(256))),
+            QVariant()};
         settings->setValue(key, values.at(random.bounded(values.size())));
     }
     settings.reopen();
