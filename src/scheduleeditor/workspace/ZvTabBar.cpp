@@ -1,5 +1,7 @@
 #include "workspace/ZvTabBar.h"
 
+#include "workspace/PlainTabStyle.h"
+
 #include "ZvSystemInfo.h"
 
 #include <QDebug>
@@ -28,6 +30,8 @@ QFont fontOfSize(QFont font, double pointSize)
 ZvTabBar::ZvTabBar(QWidget *parent)
     : QTabBar(parent)
 {
+    if (PlainTabStyle *style = PlainTabStyle::create(this))
+        setStyle(style);
     setFont(fontOfSize(font(), FirstPointSize));
 }
 
