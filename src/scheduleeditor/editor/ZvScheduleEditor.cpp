@@ -387,6 +387,12 @@ void ZvScheduleEditor::action_delete_schedule()
         m_mainWidget->removeScheduleByCurrentInfoWithUndo();
 }
 
+void ZvScheduleEditor::action_rename_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->toEditTabName();
+}
+
 void ZvScheduleEditor::action_channel_configuration()
 {
     showChannelConfiguration();

@@ -118,6 +118,7 @@ public Q_SLOTS:
     void action_output_channel_data();
     void action_create_schedule();
     void action_delete_schedule();
+    void action_rename_channel();
     void action_channel_configuration();
 
     void onCurrentChannelChanged(const ZvChannel *channel);

@@ -253,7 +253,7 @@ void ScheduleRouter::onWorkingAreaActivated()
 
 void ScheduleRouter::onGraphicsScenePurged(QGraphicsScene *scene)
 {
-    qDebug() << staticMetaObject.className() << scene;
+    qDebug() << metaObject()->className() << scene;
     Q_EMIT graphicsScenePurged(scene);
 }
 

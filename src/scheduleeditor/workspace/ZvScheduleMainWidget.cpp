@@ -1,6 +1,9 @@
 #include "workspace/ZvScheduleMainWidget.h"
 
+#include "domain/ActionNames.h"
 #include "domain/MessageBox.h"
+#include "domain/ZvScheduleCommon.h"
+#include "services/UndoCommands.h"
 #include "timetable/ZvScheduleWorkingArea.h"
 #include "workspace/ChannelFolder.h"
 #include "workspace/ChannelSaver.h"
@@ -15,8 +18,10 @@
 #include <QEvent>
 #include <QGraphicsScene>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTimer>
 #include <QUndoGroup>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 namespace Zavo {
@@ -24,6 +29,31 @@ namespace Zavo {
 namespace {
 
 constexpr int RetryDelay = 1; // ms
+
+// A shown tab bar lays out all its tabs whenever one is added; a hidden one does it once at the
+// end.
+class HiddenMeanwhile final
+{
+    Q_DISABLE_COPY(HiddenMeanwhile)
+
+public:
+    explicit HiddenMeanwhile(QWidget *widget)
+        : m_widget(widget)
+        , m_wasVisible(widget->isVisible())
+    {
+        if (m_wasVisible)
+            m_widget->hide();
+    }
+    ~HiddenMeanwhile()
+    {
+        if (m_wasVisible)
+            m_widget->show();
+    }
+
+private:
+    QWidget *m_widget;
+    bool m_wasVisible;
+};
 
 } // namespace
 
@@ -79,6 +109,10 @@ ZvScheduleTabWidget *ZvScheduleMainWidget::createTabWidget()
     connect(tabWidget, SIGNAL(currentChanged(int)), this, SLOT(onTabCurrentIndexChanged(int)));
     connect(tabWidget, SIGNAL(requestIsActivatedWidget(bool*)), this,
                               SLOT(isCurrentWidgetActivated(bool*)), Qt::DirectConnection);
+    connect(tabWidget, SIGNAL(requestChangeTabName(int,QString)), this,
+                              SLOT(changeChannelNameWithUndo(int,QString)));
+    connect(tabWidget, SIGNAL(customContextMenuRequested(QPoint)), this,
+                              SLOT(onTabWidgetContextMenuRequested(QPoint)));
     return tabWidget;
 }
 
@@ -132,6 +166,7 @@ void ZvScheduleMainWidget::createTabs()
 
 void ZvScheduleMainWidget::addChannels(const QList<ZvChannel *> &channels)
 {
+    const HiddenMeanwhile hidden(m_tabWidget);
     m_areaById.clear();
     for (ZvChannel *channel : channels)
         addChannel(channel);
@@ -147,6 +182,8 @@ void ZvScheduleMainWidget::addChannel(ZvChannel *channel)
     m_areaById.insert(channel->id(), area);
     connectWorkingArea(area);
     connect(area, SIGNAL(requestActiveWidget(QWidget*)), this, SLOT(activeTab(QWidget*)));
+    connect(area, SIGNAL(channelNameChanged(QString,ZvScheduleWorkingArea*)), this,
+                         SLOT(onChannlNameChanged(QString,ZvScheduleWorkingArea*)));
     area->setTabIndex(m_tabWidget->addTab(area, m_channelIcon, channel->name()));
 }
 
@@ -230,6 +267,90 @@ void ZvScheduleMainWidget::activeTab(QWidget *widget)
 {
     if (m_tabWidget)
         m_tabWidget->setCurrentIndex(m_tabWidget->indexOf(widget));
+}
+
+// Names
+
+bool ZvScheduleMainWidget::isNameOfOtherTab(const QString &name, int tabIndex) const
+{
+    for (int i = 0; i < m_tabWidget->count(); ++i) {
+        if (i != tabIndex && m_tabWidget->tabText(i) == name)
+            return true;
+    }
+    return false;
+}
+
+void ZvScheduleMainWidget::changeChannelNameWithUndo(int tabIndex, const QString &name)
+{
+    auto *area = qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget ? m_tabWidget->widget(tabIndex)
+                                                                   : nullptr);
+    if (!area)
+        return;
+    const bool isTaken = isNameOfOtherTab(name, tabIndex);
+    m_tabWidget->setCurrentIndex(tabIndex);
+    static const QRegularExpression forbidden(QStringLiteral("[<>:\"/\\\\|?*]"));
+    if (name.contains(forbidden)) {
+        refuseName(tr("The following characters are not there not be able to use.\n\n  < > : \" / "
+                      "\\ | ? \n\nYou have to specify another name."));
+    } else if (isTaken) {
+        refuseName(tr("New name \"%1\" is already used by other channel.\nYou have to specify "
+                      "another name.")
+                       .arg(name));
+    } else {
+        undoGroup()->activeStack()->push(
+            new UndoCommand::ChangeChannelName(name, area->channelName(), area));
+    }
+}
+
+void ZvScheduleMainWidget::refuseName(const QString &text)
+{
+    const QMessageBox::StandardButton pressed =
+        showMessageBox(this, QMessageBox::Critical, tr("Change Channel Name"), text,
+                       QMessageBox::Ok | QMessageBox::Cancel);
+    if (pressed == QMessageBox::Ok)
+        toEditTabName();
+}
+
+void ZvScheduleMainWidget::onChannlNameChanged(const QString &name, ZvScheduleWorkingArea *area)
+{
+    const int index = m_tabWidget ? m_tabWidget->indexOf(area) : -1;
+    if (index < 0)
+        return;
+    m_tabWidget->setTabText(index, name);
+    m_tabWidget->setCurrentIndex(index);
+}
+
+void ZvScheduleMainWidget::toEditTabName()
+{
+    if (m_tabWidget)
+        m_tabWidget->editTabNameRequested();
+}
+
+// Only the header of the current tab has a menu.
+void ZvScheduleMainWidget::onTabWidgetContextMenuRequested(const QPoint &pos)
+{
+    if (!m_tabWidget->currentTabRect().contains(pos))
+        return;
+    auto *menu = new QMenu(this);
+    QAction *rename =
+        menu->addAction(tr("Change Channel &Name..."), m_tabWidget, SLOT(editTabNameRequested()));
+    rename->setShortcut(Qt::Key_F2);
+    rename->setObjectName(QLatin1String(ActionName::ChangeChannelName));
+    const QStringList names = {QLatin1String(ActionName::Undo), QLatin1String(ActionName::Redo)};
+    const QList<QAction *> shared = ZvScheduleCommon::actionsByObjectName(m_editMenu, names);
+    if (!shared.isEmpty()) {
+        menu->addSeparator();
+        menu->addActions(shared);
+    }
+    connect(menu, SIGNAL(aboutToShow()), this, SLOT(onTabWidgetContextMenuAboutToShow()));
+    connect(menu, SIGNAL(aboutToHide()), rename, SLOT(deleteLater()));
+    connect(menu, SIGNAL(aboutToHide()), menu, SLOT(deleteLater()));
+    menu->exec(m_tabWidget->mapToGlobal(pos));
+}
+
+void ZvScheduleMainWidget::onTabWidgetContextMenuAboutToShow()
+{
+    Q_EMIT requestEditMenuAboutToShow();
 }
 
 } // namespace Zavo

@@ -58,8 +58,15 @@ public Q_SLOTS:
     /// Renews the basic file from the file of @p channel.
     void saveAsBasicChannelFile(ZvChannel *channel);
 
+    /// Gives the channel of the tab another name, as a step of undo. A name that another tab has or
+    /// that holds a forbidden character is refused with a message.
+    void changeChannelNameWithUndo(int tabIndex, const QString &name);
+    void onChannlNameChanged(const QString &name, ZvScheduleWorkingArea *area);
     void activeTab(int index);
     void activeTab(QWidget *widget);
+
+    /// Opens the in-place editor over the title of the current tab.
+    void toEditTabName();
 
 Q_SIGNALS:
     /// The user or a failed start wants the editor to close. The receiver deletes this widget, so
@@ -77,11 +84,15 @@ private Q_SLOTS:
     void createTabs();
     void closeScheduleEditor();
     void onTabCurrentIndexChanged(int index);
+    void onTabWidgetContextMenuRequested(const QPoint &pos);
+    void onTabWidgetContextMenuAboutToShow();
 
 private:
     ScheduleToolBar *createToolBar();
     ZvScheduleTabWidget *createTabWidget();
     void addChannels(const QList<ZvChannel *> &channels);
+    bool isNameOfOtherTab(const QString &name, int tabIndex) const;
+    void refuseName(const QString &text);
     void showCritical(const QString &title, const QString &text);
 
     ZvScheduleTabWidget *m_tabWidget = nullptr;
