@@ -15,8 +15,10 @@
 #include "ZvEditorConfig.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QDebug>
 #include <QGraphicsScene>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QTimer>
@@ -59,8 +61,8 @@ bool ZvScheduleEditor::setup()
 void ZvScheduleEditor::setupMainMenu()
 {
     createMainMenu(m_registry.get(), this);
-    connect(getMenu(QLatin1String(MenuName::Edit)), SIGNAL(aboutToShow()), this,
-                                                           SLOT(onMenuEditAboutToShow()));
+    QMenu *editMenu = getMenu(QLatin1String(MenuName::Edit));
+    connect(editMenu, SIGNAL(aboutToShow()), this, SLOT(onMenuEditAboutToShow()));
     getAction(QLatin1String(ActionName::Upload))
         ->setEnabled(!ZvEditorConfig::getConfig()->allInOne());
 }
@@ -79,44 +81,51 @@ void ZvScheduleEditor::setupMainWidget()
     m_editActionsTimer->setSingleShot(true);
     m_editActionsTimer->setInterval(EditActionsDelay);
     connectMainWidget();
+    connectEditActions();
     setActivatedWidget(m_mainWidget);
 }
 
 void ZvScheduleEditor::connectMainWidget()
 {
     ZvScheduleMainWidget *widget = m_mainWidget;
+    // clang-format off
     connect(m_createTabsTimer, SIGNAL(timeout()), widget, SLOT(createTabs()));
     connect(widget, SIGNAL(requestClose()), this, SLOT(close()), Qt::QueuedConnection);
-    connect(widget, SIGNAL(tabsCreated(QList<ZvChannel*>)), this,
-                           SLOT(startScheduleValidator(QList<ZvChannel*>)), Qt::QueuedConnection);
-    connect(widget, SIGNAL(graphicsScenePurged(QGraphicsScene*)), this,
-                           SLOT(onGraphicsScenePurged(QGraphicsScene*)));
-    connect(widget, SIGNAL(requestCurrentScheduleType(ZvScheduleBasicInfo*)), this,
-                           SLOT(answerCurrentScheduleType(ZvScheduleBasicInfo*)),
-                                Qt::DirectConnection);
+    connect(widget, SIGNAL(tabsCreated(QList<ZvChannel*>)),
+            this, SLOT(startScheduleValidator(QList<ZvChannel*>)), Qt::QueuedConnection);
+    connect(widget, SIGNAL(graphicsScenePurged(QGraphicsScene*)),
+            this, SLOT(onGraphicsScenePurged(QGraphicsScene*)));
+    connect(widget, SIGNAL(requestCurrentScheduleType(ZvScheduleBasicInfo*)),
+            this, SLOT(answerCurrentScheduleType(ZvScheduleBasicInfo*)), Qt::DirectConnection);
     connect(widget, SIGNAL(activated(QWidget*)), this, SLOT(setActivatedWidget(QWidget*)));
-    connect(widget, SIGNAL(requestIsActivatedWidget(const QWidget*,bool*)), this,
-                           SLOT(isActivatedWidgetRequested(const QWidget*,bool*)),
-                                Qt::DirectConnection);
+    connect(widget, SIGNAL(requestIsActivatedWidget(const QWidget*,bool*)),
+            this, SLOT(isActivatedWidgetRequested(const QWidget*,bool*)), Qt::DirectConnection);
     connect(widget, SIGNAL(requestEditMenuAboutToShow()), this, SLOT(onMenuEditAboutToShow()));
-    connect(widget, SIGNAL(currentChannelChanged(const ZvChannel*)), this,
-                           SLOT(onCurrentChannelChanged(const ZvChannel*)));
+    connect(widget, SIGNAL(currentChannelChanged(const ZvChannel*)),
+            this, SLOT(onCurrentChannelChanged(const ZvChannel*)));
+    // clang-format on
+}
 
-    // Shortcuts work while no menu is open, so the edit actions follow what they depend on, once
-    // for a burst of reports.
+// Shortcuts work while no menu is open, so the edit actions follow what they depend on, once for a
+// burst of reports.
+void ZvScheduleEditor::connectEditActions()
+{
     connect(m_editActionsTimer, SIGNAL(timeout()), this, SLOT(onMenuEditAboutToShow()));
+    // clang-format off
     const char *const causes[] = {
         SIGNAL(currentChannelChanged(const ZvChannel*)),
-               SIGNAL(currentScheduleInfoChanged(ZvScheduleBasicInfo)),
-                      SIGNAL(scheduleStageCountChanged(ZvScheduleBasicInfo,int)),
-                             SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)),
-                                    SIGNAL(timeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)),
-                             };
+        SIGNAL(currentScheduleInfoChanged(ZvScheduleBasicInfo)),
+        SIGNAL(scheduleStageCountChanged(ZvScheduleBasicInfo,int)),
+        SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)),
+        SIGNAL(timeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)),
+    };
+    // clang-format on
     for (const char *cause : causes)
-        connect(widget, cause, m_editActionsTimer, SLOT(start()));
-    QUndoGroup *undoGroup = widget->undoGroup();
+        connect(m_mainWidget, cause, m_editActionsTimer, SLOT(start()));
+    QUndoGroup *undoGroup = m_mainWidget->undoGroup();
     connect(undoGroup, SIGNAL(canUndoChanged(bool)), m_editActionsTimer, SLOT(start()));
     connect(undoGroup, SIGNAL(canRedoChanged(bool)), m_editActionsTimer, SLOT(start()));
+    connect(QGuiApplication::clipboard(), SIGNAL(dataChanged()), m_editActionsTimer, SLOT(start()));
 }
 
 bool ZvScheduleEditor::exec()

@@ -155,6 +155,7 @@ private:
     void setupMainMenu();
     void setupMainWidget();
     void connectMainWidget();
+    void connectEditActions();
     void attatchWidgetsToMainWindow();
     void deleteWidgets();
     QString errorMessage() const;

@@ -94,8 +94,8 @@ ScheduleToolBar *ZvScheduleMainWidget::createToolBar()
 {
     auto *toolBar = new ScheduleToolBar(actionList(), this);
     toolBar->installEventFilter(this);
-    connect(toolBar->closeAction(), SIGNAL(triggered()), this,
-                                           SLOT(closeScheduleEditor()), Qt::QueuedConnection);
+    QAction *closing = toolBar->closeAction();
+    connect(closing, SIGNAL(triggered()), this, SLOT(closeScheduleEditor()), Qt::QueuedConnection);
     return toolBar;
 }
 
@@ -106,13 +106,15 @@ ZvScheduleTabWidget *ZvScheduleMainWidget::createTabWidget()
     tabWidget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     tabWidget->setMovable(true);
     tabWidget->setContextMenuPolicy(Qt::CustomContextMenu);
+    // clang-format off
     connect(tabWidget, SIGNAL(currentChanged(int)), this, SLOT(onTabCurrentIndexChanged(int)));
-    connect(tabWidget, SIGNAL(requestIsActivatedWidget(bool*)), this,
-                              SLOT(isCurrentWidgetActivated(bool*)), Qt::DirectConnection);
-    connect(tabWidget, SIGNAL(requestChangeTabName(int,QString)), this,
-                              SLOT(changeChannelNameWithUndo(int,QString)));
-    connect(tabWidget, SIGNAL(customContextMenuRequested(QPoint)), this,
-                              SLOT(onTabWidgetContextMenuRequested(QPoint)));
+    connect(tabWidget, SIGNAL(requestIsActivatedWidget(bool*)),
+            this, SLOT(isCurrentWidgetActivated(bool*)), Qt::DirectConnection);
+    connect(tabWidget, SIGNAL(requestChangeTabName(int,QString)),
+            this, SLOT(changeChannelNameWithUndo(int,QString)));
+    connect(tabWidget, SIGNAL(customContextMenuRequested(QPoint)),
+            this, SLOT(onTabWidgetContextMenuRequested(QPoint)));
+    // clang-format on
     return tabWidget;
 }
 
@@ -181,9 +183,11 @@ void ZvScheduleMainWidget::addChannel(ZvChannel *channel)
     area->setContextMenu(m_editMenu);
     m_areaById.insert(channel->id(), area);
     connectWorkingArea(area);
+    // clang-format off
     connect(area, SIGNAL(requestActiveWidget(QWidget*)), this, SLOT(activeTab(QWidget*)));
-    connect(area, SIGNAL(channelNameChanged(QString,ZvScheduleWorkingArea*)), this,
-                         SLOT(onChannlNameChanged(QString,ZvScheduleWorkingArea*)));
+    connect(area, SIGNAL(channelNameChanged(QString,ZvScheduleWorkingArea*)),
+            this, SLOT(onChannlNameChanged(QString,ZvScheduleWorkingArea*)));
+    // clang-format on
     area->setTabIndex(m_tabWidget->addTab(area, m_channelIcon, channel->name()));
 }
 

@@ -18,10 +18,12 @@ ZvScheduleTabWidget::ZvScheduleTabWidget(QWidget *parent)
     bar->installEventFilter(this);
     bar->setMouseTracking(true);
     setTabBar(bar);
-    connect(this, SIGNAL(requestEditTabName()), this,
-                         SLOT(editTabNameRequested()), Qt::QueuedConnection);
-    connect(this, SIGNAL(requestCorrectFirstTab(int, int)), this,
-                         SLOT(correctFirstTab(int, int)), Qt::QueuedConnection);
+    // clang-format off
+    connect(this, SIGNAL(requestEditTabName()),
+            this, SLOT(editTabNameRequested()), Qt::QueuedConnection);
+    connect(this, SIGNAL(requestCorrectFirstTab(int,int)),
+            this, SLOT(correctFirstTab(int,int)), Qt::QueuedConnection);
+    // clang-format on
 }
 
 QRect ZvScheduleTabWidget::currentTabRect() const
@@ -135,8 +137,9 @@ void ZvScheduleTabWidget::editTabNameRequested()
     editor->resize(rect.size());
     editor->setInitialText(title);
     editor->setToolTip(title);
-    connect(editor, SIGNAL(editingFinished(QObject *)), this,
-                           SLOT(editingTabNameFinished(QObject *)));
+    // clang-format off
+    connect(editor, SIGNAL(editingFinished(QObject*)), this, SLOT(editingTabNameFinished(QObject*)));
+    // clang-format on
     editor->show();
     editor->selectAll();
     editor->setFocus();
