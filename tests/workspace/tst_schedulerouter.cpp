@@ -61,7 +61,6 @@ private Q_SLOTS:
     void storesOnlyAnEnabledSchedule();
     void selection();
     void deletesSelection();
-    void clipboardOffersNothing();
     void relays();
     void pressActivates();
     void asksWhetherActivated();
@@ -276,18 +275,6 @@ void tst_ScheduleRouter::deletesSelection()
     main.widget->removeSelectedItems();
     QVERIFY(main.area(0)->currentTimes().isEmpty());
     QCOMPARE(int(main.widget->hasSelectedItems()), 8);
-}
-
-void tst_ScheduleRouter::clipboardOffersNothing()
-{
-    MainWidgetFixture main;
-    makeTabs(main);
-    main.widget->selectAllItems();
-    QVERIFY(!main.widget->copySelectedItems());
-    QVERIFY(!main.widget->cutSelectedItems());
-    QVERIFY(!main.widget->isPastingPossible());
-    QVERIFY(!main.widget->pasteItems());
-    QCOMPARE(main.area(0)->currentTimes().size(), 2);
 }
 
 void tst_ScheduleRouter::relays()
