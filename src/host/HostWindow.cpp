@@ -1,0 +1,135 @@
+#include "HostWindow.h"
+
+#include "Display.h"
+#include "HostNames.h"
+#include "ScenePurger.h"
+#include "VersionBox.h"
+#include "ZvEditorConfig.h"
+#include "editor/ZvScheduleEditor.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+
+namespace Zavo {
+
+namespace {
+constexpr QSize defaultSize(1280, 860);
+// What a window takes of a small screen, so that its frame fits too.
+constexpr double screenShare = 0.92;
+} // namespace
+
+HostWindow::HostWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_scenePurger(new ScenePurger(this))
+    , m_editor(new ZvScheduleEditor(this))
+{
+    setWindowTitle(
+        tr("%1 - Zavo Schedule Editor").arg(QDir::toNativeSeparators(ZvEditorConfig::dataDir())));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/zavo-schedule-editor.svg")));
+    takeDefaultSize();
+    m_editor->setHelpMenu(createHelpMenu());
+    const QList<QMenu *> menus = m_editor->menu();
+    for (QMenu *menu : menus)
+        menuBar()->addMenu(menu);
+    disableWhatIsNotOffered();
+    connectEditor();
+}
+
+HostWindow::~HostWindow()
+{
+    // Before the help menu, which the editor still knows.
+    delete m_editor;
+}
+
+bool HostWindow::start(QString *message)
+{
+    if (m_editor->exec())
+        return true;
+    m_editor->hasError(message);
+    return false;
+}
+
+ZvScheduleEditor *HostWindow::editor() const
+{
+    return m_editor;
+}
+
+bool HostWindow::endSession(bool mayAsk)
+{
+    if (!mayAsk && !m_editorClosed)
+        return false;
+    closeEditor();
+    return true;
+}
+
+void HostWindow::showVersionInformation()
+{
+    VersionBox(this).exec();
+}
+
+void HostWindow::closeEvent(QCloseEvent *event)
+{
+    closeEditor();
+    event->setAccepted(m_editorClosed);
+}
+
+void HostWindow::onEditorClosed()
+{
+    if (m_editorClosed)
+        return;
+    m_editorClosed = true;
+    close();
+    Q_EMIT finished();
+}
+
+void HostWindow::takeDefaultSize()
+{
+    // Without a person there is no real screen either.
+    const bool bounded = Display::isSeen() && screen();
+    resize(bounded ? defaultSize.boundedTo(screen()->availableSize() * screenShare) : defaultSize);
+}
+
+QMenu *HostWindow::createHelpMenu()
+{
+    auto *const menu = new QMenu(tr("&Help"), this);
+    menu->setObjectName(QLatin1String(HostNames::helpMenu));
+    menu->addAction(tr("&About Zavo Schedule Editor"), m_editor, SLOT(showVersionInformation()));
+    menu->addAction(tr("About &Qt"), qApp, SLOT(aboutQt()));
+    return menu;
+}
+
+void HostWindow::connectEditor()
+{
+    connect(m_editor, SIGNAL(closed()), this, SLOT(onEditorClosed()));
+    connect(m_editor, SIGNAL(requestQuit()), this, SLOT(close()));
+    connect(m_editor, SIGNAL(requestShowVersionInformation()), this,
+                             SLOT(showVersionInformation()));
+    connect(m_editor, SIGNAL(graphicsScenePurged(QGraphicsScene*)), m_scenePurger,
+                             SLOT(purge(QGraphicsScene*)));
+    connect(m_editor, SIGNAL(graphicsScenePurged(QList<QGraphicsScene*>)), m_scenePurger,
+                             SLOT(purge(QList<QGraphicsScene*>)));
+}
+
+void HostWindow::disableWhatIsNotOffered()
+{
+    for (const char *name : HostNames::actionsNotOffered) {
+        if (QAction *const action = m_editor->getAction(QLatin1String(name)))
+            action->setEnabled(false);
+    }
+}
+
+void HostWindow::closeEditor()
+{
+    // The editor asks in a loop of its own, in which the window can be told again to close.
+    if (m_closing || m_editorClosed)
+        return;
+    m_closing = true;
+    m_editor->close();
+}
+
+} // namespace Zavo

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QMainWindow>
+
+class QMenu;
+
+namespace Zavo {
+
+class ScenePurger;
+class ZvScheduleEditor;
+
+/// The program's window: it holds the editor, shows its menus and a help menu, and answers the
+/// editor's requests. It knows the editor only by its exported class.
+class HostWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit HostWindow(QWidget *parent = nullptr);
+
+    /// Gives up the editor without asking about unsaved channels; closing the window asks.
+    ~HostWindow() override;
+
+    /// Starts the editor on the data folder of ZvEditorConfig. False, with the reason in
+    /// @p message, if it cannot start.
+    bool start(QString *message);
+
+    ZvScheduleEditor *editor() const;
+
+    /// The session is about to end. Closes the editor, which asks about unsaved channels, if
+    /// @p mayAsk. False if the session should wait because the user could not be asked.
+    bool endSession(bool mayAsk);
+
+public Q_SLOTS:
+    void showVersionInformation();
+
+Q_SIGNALS:
+    /// The editor has finished and the window is closed; the program may end. Emitted once.
+    void finished();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private Q_SLOTS:
+    void onEditorClosed();
+
+private:
+    void takeDefaultSize();
+    QMenu *createHelpMenu();
+    void connectEditor();
+    void disableWhatIsNotOffered();
+    void closeEditor();
+
+    ScenePurger *m_scenePurger = nullptr;
+    ZvScheduleEditor *m_editor = nullptr;
+    bool m_closing = false;
+    bool m_editorClosed = false;
+};
+
+} // namespace Zavo

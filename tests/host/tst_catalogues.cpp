@@ -1,0 +1,135 @@
+#include "Catalogues.h"
+
+#include <QFile>
+#include <QLocale>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using Zavo::Catalogues;
+
+class tst_Catalogues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void loadsQtsOwn();
+    void loadsOurs_data();
+    void loadsOurs();
+    void firstFolderWins();
+    void endsWithTheObject();
+    void refusesWhatIsNoLanguage();
+    void standsForTheSystem();
+
+private:
+    void release(const QString &folder, const QString &text);
+
+    QTemporaryDir m_folder;
+    QTemporaryDir m_otherFolder;
+};
+
+namespace {
+
+QString channelInForce()
+{
+    return QCoreApplication::translate("Test", "Channel");
+}
+
+} // namespace
+
+void tst_Catalogues::initTestCase()
+{
+    release(m_folder.path(), QStringLiteral("Kanal"));
+    release(m_otherFolder.path(), QStringLiteral("Anderer Kanal"));
+}
+
+void tst_Catalogues::cleanup()
+{
+    QLocale::setDefault(QLocale::c());
+}
+
+void tst_Catalogues::release(const QString &folder, const QString &text)
+{
+    const QString source = folder + QStringLiteral("/zavo_de.ts");
+    QFile file(source);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS>"
+                              "<TS version=\"2.1\" language=\"de\"><context><name>Test</name>"
+                              "<message><source>Channel</source>"
+                              "<translation>%1</translation></message></context></TS>")
+                   .arg(text)
+                   .toUtf8());
+    file.close();
+    QCOMPARE(QProcess::execute(QStringLiteral(ZAVO_LRELEASE), {QStringLiteral("-silent"), source}),
+             0);
+}
+
+void tst_Catalogues::loadsQtsOwn()
+{
+    Catalogues catalogues({});
+    QVERIFY(catalogues.load(QStringLiteral("de")));
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Abbrechen"));
+    QCOMPARE(QLocale().language(), QLocale::German);
+}
+
+void tst_Catalogues::loadsOurs_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("language") << "de"
+                              << "Kanal";
+    QTest::newRow("with a country") << "de_AT"
+                                    << "Kanal";
+    QTest::newRow("with a hyphen") << "de-CH"
+                                   << "Kanal";
+    QTest::newRow("without a catalogue") << "fr"
+                                         << "Channel";
+    QTest::newRow("English") << "en"
+                             << "Channel";
+}
+
+void tst_Catalogues::loadsOurs()
+{
+    QFETCH(QString, language);
+    Catalogues catalogues({m_folder.path()});
+    QVERIFY(catalogues.load(language));
+    QTEST(channelInForce(), "expected");
+}
+
+void tst_Catalogues::firstFolderWins()
+{
+    const QString empty = m_folder.filePath(QStringLiteral("none"));
+    Catalogues catalogues({empty, m_otherFolder.path(), m_folder.path()});
+    QVERIFY(catalogues.load(QStringLiteral("de")));
+    QCOMPARE(channelInForce(), QStringLiteral("Anderer Kanal"));
+}
+
+void tst_Catalogues::endsWithTheObject()
+{
+    {
+        Catalogues catalogues({m_folder.path()});
+        QVERIFY(catalogues.load(QStringLiteral("de")));
+        QCOMPARE(channelInForce(), QStringLiteral("Kanal"));
+    }
+    QCOMPARE(channelInForce(), QStringLiteral("Channel"));
+}
+
+void tst_Catalogues::refusesWhatIsNoLanguage()
+{
+    Catalogues catalogues({m_folder.path()});
+    QVERIFY(!catalogues.load(QStringLiteral("no such language")));
+    QVERIFY(!catalogues.load(QStringLiteral("../../etc")));
+    QCOMPARE(channelInForce(), QStringLiteral("Channel"));
+}
+
+void tst_Catalogues::standsForTheSystem()
+{
+    Catalogues catalogues({m_folder.path()});
+    QVERIFY(catalogues.load(QString()));
+    QCOMPARE(channelInForce(), QStringLiteral("Channel"));
+}
+
+QTEST_GUILESS_MAIN(tst_Catalogues)
+#include "tst_catalogues.moc"

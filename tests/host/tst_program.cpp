@@ -1,0 +1,229 @@
+#include "TemporaryDataFolder.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QtTest>
+
+using ZavoTest::TemporaryDataFolder;
+
+namespace {
+
+/// What one run of the program gave back.
+struct Run
+{
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+} // namespace
+
+class tst_Program : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void printsHelpAndVersion_data();
+    void printsHelpAndVersion();
+    void refusesALineThatMakesNoSense_data();
+    void refusesALineThatMakesNoSense();
+    void writesAScreenshot_data();
+    void writesAScreenshot();
+    void screenshotFollowsTheRatio();
+    void createsTheFirstChannels();
+    void leavesTheExamplesAlone();
+    void neverTakesATroubledFolderForAnEmptyOne_data();
+    void neverTakesATroubledFolderForAnEmptyOne();
+    void tellsOfAScreenshotThatCannotBeWritten();
+    void needsADisplayForItsWindow();
+
+private:
+    Run run(const QStringList &arguments,
+            const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
+    QString data() const { return m_folder->path(); }
+
+    std::unique_ptr<TemporaryDataFolder> m_folder;
+};
+
+namespace {
+
+QProcessEnvironment environmentWithoutDisplay()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto *variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(QLatin1String(variable));
+    return environment;
+}
+
+} // namespace
+
+void tst_Program::init()
+{
+    m_folder = std::make_unique<TemporaryDataFolder>();
+}
+
+Run tst_Program::run(const QStringList &arguments, const QProcessEnvironment &environment)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(ZAVO_PROGRAM), arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+void tst_Program::printsHelpAndVersion_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("printed");
+    QTest::newRow("help") << "--help"
+                          << "--data-dir <folder>";
+    QTest::newRow("h") << "-h"
+                       << "--screenshot <file>";
+    QTest::newRow("version") << "--version"
+                             << "zavo-schedule-editor " ZAVO_VERSION;
+    QTest::newRow("v") << "-v"
+                       << "zavo-schedule-editor " ZAVO_VERSION;
+}
+
+void tst_Program::printsHelpAndVersion()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, printed);
+    const Run result = run({option}, environmentWithoutDisplay());
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.output.contains(printed), qPrintable(result.output));
+    QCOMPARE(result.errors, QString());
+}
+
+void tst_Program::refusesALineThatMakesNoSense_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("option") << "--no-such-option"
+                            << "no-such-option";
+    QTest::newRow("word") << "word"
+                          << "word";
+    QTest::newRow("language") << "--language=nonsense"
+                              << "nonsense";
+}
+
+void tst_Program::refusesALineThatMakesNoSense()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, named);
+    const Run result = run({argument});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.startsWith(QStringLiteral("zavo-schedule-editor: ")),
+             qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(named), qPrintable(result.errors));
+}
+
+void tst_Program::writesAScreenshot_data()
+{
+    QTest::addColumn<bool>("display");
+    QTest::newRow("offscreen platform chosen by the environment") << true;
+    QTest::newRow("without a display") << false;
+}
+
+void tst_Program::writesAScreenshot()
+{
+    QFETCH(bool, display);
+    m_folder->copyFrom(QStringLiteral(ZAVO_SOURCE_DIR "/examples/data"));
+    const QString picture = m_folder->filePath(QStringLiteral("picture.png"));
+    const Run result =
+        run({QStringLiteral("--data-dir"), data(), QStringLiteral("--screenshot"), picture},
+            display ? QProcessEnvironment::systemEnvironment() : environmentWithoutDisplay());
+    QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
+    const QImage image(picture, "PNG");
+    QCOMPARE(image.size(), QSize(1280, 860));
+}
+
+void tst_Program::screenshotFollowsTheRatio()
+{
+    m_folder->copyFrom(QStringLiteral(ZAVO_SOURCE_DIR "/examples/data"));
+    const QString picture = m_folder->filePath(QStringLiteral("picture.png"));
+    const QStringList arguments{QStringLiteral("--data-dir=") + data(),
+                                QStringLiteral("--screenshot=") + picture};
+    QCOMPARE(run(arguments).exitCode, 0);
+    const QImage plain(picture, "PNG");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("ZAVO_DPI_RATIO"), QStringLiteral("2"));
+    QCOMPARE(run(arguments, environment).exitCode, 0);
+    const QImage scaled(picture, "PNG");
+    QVERIFY(!plain.isNull());
+    QVERIFY(!scaled.isNull());
+    QVERIFY(plain != scaled);
+}
+
+void tst_Program::createsTheFirstChannels()
+{
+    const QString fresh = m_folder->filePath(QStringLiteral("fresh/folder"));
+    const QString picture = m_folder->filePath(QStringLiteral("picture.png"));
+    const Run result =
+        run({QStringLiteral("--data-dir"), fresh, QStringLiteral("--screenshot"), picture});
+    QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
+    QCOMPARE(QDir(fresh + QStringLiteral("/channel")).entryList(QDir::Files).size(), 11);
+}
+
+void tst_Program::leavesTheExamplesAlone()
+{
+    m_folder->copyFrom(QStringLiteral(ZAVO_SOURCE_DIR "/examples/data"));
+    const QStringList names = m_folder->names(QStringLiteral("channel"));
+    QVERIFY(names.size() >= 11);
+    const QString picture = m_folder->filePath(QStringLiteral("picture.png"));
+    QCOMPARE(run({QStringLiteral("--data-dir"), data(), QStringLiteral("--screenshot"), picture})
+                 .exitCode,
+             0);
+    QCOMPARE(m_folder->names(QStringLiteral("channel")), names);
+    for (const QString &name : names) {
+        QFile original(QStringLiteral(ZAVO_SOURCE_DIR "/examples/data/channel/") + name);
+        QVERIFY(original.open(QIODevice::ReadOnly));
+        QCOMPARE(m_folder->read(QStringLiteral("channel/") + name), original.readAll());
+    }
+}
+
+void tst_Program::neverTakesATroubledFolderForAnEmptyOne_data()
+{
+    QTest::addColumn<QString>("obstacle");
+    QTest::newRow("data folder is a file") << "data";
+    QTest::newRow("channel folder is a file") << "data/channel";
+}
+
+void tst_Program::neverTakesATroubledFolderForAnEmptyOne()
+{
+    QFETCH(QString, obstacle);
+    m_folder->write(obstacle, "precious");
+    const QString picture = m_folder->filePath(QStringLiteral("picture.png"));
+    const Run result =
+        run({QStringLiteral("--data-dir"), m_folder->filePath(QStringLiteral("data")),
+             QStringLiteral("--screenshot"), picture});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains(m_folder->filePath(obstacle)), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(QStringLiteral("is not a folder")), qPrintable(result.errors));
+    QCOMPARE(m_folder->read(obstacle), QByteArray("precious"));
+    QVERIFY(!QFile::exists(picture));
+}
+
+void tst_Program::tellsOfAScreenshotThatCannotBeWritten()
+{
+    const QString picture = m_folder->filePath(QStringLiteral("none/picture.png"));
+    const Run result =
+        run({QStringLiteral("--data-dir"), data(), QStringLiteral("--screenshot"), picture});
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains(picture), qPrintable(result.errors));
+}
+
+void tst_Program::needsADisplayForItsWindow()
+{
+    const Run result = run({QStringLiteral("--data-dir"), data()}, environmentWithoutDisplay());
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains(QStringLiteral("no display")), qPrintable(result.errors));
+    QVERIFY(m_folder->names().isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_Program)
+#include "tst_program.moc"
