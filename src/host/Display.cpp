@@ -1,6 +1,7 @@
 #include "Display.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QFont>
 
 #include <algorithm>
 #include <iterator>
@@ -26,7 +27,14 @@ void useOffscreen()
 
 bool isSeen()
 {
-    return QGuiApplication::platformName() != QLatin1String(offscreenPlatform);
+    return QApplication::platformName() != QLatin1String(offscreenPlatform);
+}
+
+void chooseFont()
+{
+    constexpr int pointSize = 9;
+    if (!isSeen())
+        QApplication::setFont(QFont(QStringLiteral("Sans Serif"), pointSize));
 }
 
 } // namespace Zavo::Display

@@ -12,4 +12,8 @@ void useOffscreen();
 /// True if a person sees the windows of this application.
 bool isSeen();
 
+/// Where nobody sees the windows there is no desktop that chooses a font: takes the one of a
+/// desktop without settings of its own. To be called once there is an application object.
+void chooseFont();
+
 } // namespace Zavo::Display

@@ -45,6 +45,7 @@ int main(int argc, char *argv[])
     setAttributes();
     setNames();
     const QApplication application(argc, argv);
+    Zavo::Display::chooseFont();
     // One way out only: the editor has finished.
     QApplication::setQuitOnLastWindowClosed(false);
     Zavo::Program program(QCoreApplication::arguments());
