@@ -37,10 +37,18 @@ zavo_install_library(
   ZvChannel.h
   ZvConfig.h
   ZvSchedule.h
+  ZvStage.h
+  ZvStageItem.h
   ZvSystemInfo.h
   ZvTime.h)
-zavo_install_library(ZvEditorCommon ZvEditorCommon.h ZvEditorConfig.h ZvEditorUserConfig.h)
-zavo_install_library(ZvScheduleEditor)
+zavo_install_library(
+  ZvEditorCommon
+  ZvEditorCommon.h
+  ZvEditorConfig.h
+  ZvEditorUserConfig.h
+  ZvFileSystemModel.h
+  ZvStagePreview.h)
+zavo_install_library(ZvScheduleEditor domain/ZvScheduleCommonInterface.h editor/ZvScheduleEditor.h)
 
 configure_package_config_file(
   ${CMAKE_CURRENT_LIST_DIR}/ZavoScheduleEditorConfig.cmake.in
