@@ -10,9 +10,9 @@ void ScenePurger::purge(QGraphicsScene *scene)
         scene->deleteLater();
 }
 
-void ScenePurger::purge(QList<QGraphicsScene *> sceneList)
+void ScenePurger::purge(const QList<QGraphicsScene *> &sceneList)
 {
-    for (QGraphicsScene *scene : qAsConst(sceneList))
+    for (QGraphicsScene *scene : sceneList)
         purge(scene);
 }
 

@@ -19,7 +19,7 @@ public Q_SLOTS:
     /// Both take the scenes and delete them from the event loop, which deletes the widgets that the
     /// editor gave up before them.
     void purge(QGraphicsScene *scene);
-    void purge(QList<QGraphicsScene *> sceneList);
+    void purge(const QList<QGraphicsScene *> &sceneList);
 };
 
 } // namespace Zavo
