@@ -13,6 +13,19 @@ private Q_SLOTS:
     void linksLeadSomewhere();
 };
 
+namespace {
+
+QString withoutCode(const QString &markdown)
+{
+    const QStringList parts = markdown.split(QStringLiteral("```"));
+    QString text;
+    for (int index = 0; index < parts.size(); index += 2)
+        text += parts.at(index);
+    return text;
+}
+
+} // namespace
+
 void tst_Documents::linksLeadSomewhere_data()
 {
     QTest::addColumn<QString>("document");
@@ -29,7 +42,7 @@ void tst_Documents::linksLeadSomewhere()
     QFETCH(QString, document);
     QFile file(document);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    auto links = expression.globalMatch(QString::fromUtf8(file.readAll()));
+    auto links = expression.globalMatch(withoutCode(QString::fromUtf8(file.readAll())));
     while (links.hasNext()) {
         const QString target = links.next().captured(1);
         if (target.startsWith(QLatin1String("https://")))
