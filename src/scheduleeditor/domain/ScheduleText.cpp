@@ -24,7 +24,7 @@ QString scheduleText(const ZvScheduleBasicInfo &info)
     case ZvSchedule::DayOfWeek:
         return QLocale::system().dayName(info.dayOfWeek(), QLocale::LongFormat);
     default:
-        return QString();
+        return {};
     }
 }
 

@@ -64,8 +64,8 @@ Q_DECLARE_METATYPE(Zavo::ZvScheduleBasicInfo)
 Q_DECLARE_METATYPE(Zavo::ZvScheduleBasicInfo *)
 
 template<>
-inline bool qMapLessThanKey(const Zavo::ZvScheduleBasicInfo &first,
-                            const Zavo::ZvScheduleBasicInfo &second)
+inline bool qMapLessThanKey(const Zavo::ZvScheduleBasicInfo &key1,
+                            const Zavo::ZvScheduleBasicInfo &key2)
 {
-    return Zavo::precedesAsKey(first, second);
+    return Zavo::precedesAsKey(key1, key2);
 }

@@ -118,7 +118,7 @@ TimeTablePage::SelectedType TimeTablePage::hasSelectedItems() const
     using Interface = ZvScheduleCommonInterface;
     const ZvTimeTableTimeZoneItem *zone = timeZone();
     if (!zone)
-        return SelectedType();
+        return {};
     const int selected = zone->selectedTimeItemCount();
     if (selected == 0)
         return Interface::SelectedSelectAll;

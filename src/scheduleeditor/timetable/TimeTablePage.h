@@ -34,6 +34,9 @@ class TimeTablePage : public QWidget
 public:
     using SelectedType = ZvScheduleCommonInterface::SelectedType;
 
+    /// Gives up the scene by graphicsScenePurged(), unless it was taken.
+    ~TimeTablePage() override;
+
     /// Whether the schedule on show exists and can be edited.
     bool isCurrentScheduleEnabled() const { return m_scheduleEnabled; }
     /// What stands behind "Schedule of" in the title.
@@ -108,8 +111,6 @@ Q_SIGNALS:
 
 protected:
     explicit TimeTablePage(QWidget *parent);
-    /// Gives up the scene by graphicsScenePurged(), unless it was taken.
-    ~TimeTablePage() override;
 
     WorkingAreaHeader *header() const { return m_header; }
     /// Null once the scene was given up.
