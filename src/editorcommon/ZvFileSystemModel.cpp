@@ -1,13 +1,13 @@
 #include "ZvFileSystemModel.h"
 
 #include "ZvFileIcons.h"
+#include "ZvFileOperations.h"
 #include "ZvFileSystemNode.h"
 #include "ZvFolderComparison.h"
 #include "ZvFolderLister.h"
 #include "ZvFolderWatch.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QLocale>
 #include <QMimeData>
 #include <QScopedValueRollback>
@@ -17,39 +17,9 @@
 namespace Zavo {
 
 namespace {
-constexpr int c_longestNameBytes = 255;
-
 QString uriListType()
 {
     return QStringLiteral("text/uri-list");
-}
-
-bool isFileName(const QString &name)
-{
-    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
-           !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null) &&
-           QFile::encodeName(name).size() <= c_longestNameBytes;
-}
-
-bool removeFromDisk(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.isDir() && !info.isSymLink() ? QDir().rmdir(path) : QFile::remove(path);
-}
-
-bool transfer(const QString &source, const QString &target, Qt::DropAction action)
-{
-    switch (action) {
-    case Qt::CopyAction:
-        // Reading a pipe would wait for its writer.
-        return QFileInfo(source).isFile() && QFile::copy(source, target);
-    case Qt::MoveAction:
-        return QFile::rename(source, target);
-    case Qt::LinkAction:
-        return QFile::link(source, target);
-    default:
-        return false;
-    }
 }
 } // namespace
 
@@ -173,7 +143,7 @@ bool ZvFileSystemModel::setData(const QModelIndex &index, const QVariant &value,
     if (name == node->name())
         return true;
     ZvFileSystemNode *folder = node->parent();
-    if (!isFileName(name) || !QFile::rename(node->path(), QDir(folder->path()).filePath(name)))
+    if (!ZvFileOperations::rename(node->path(), name))
         return false;
     const int generation = m_generation;
     renameNode(node, name);
@@ -234,14 +204,9 @@ bool ZvFileSystemModel::dropMimeData(const QMimeData *data, Qt::DropAction actio
     if (action == Qt::IgnoreAction)
         return true;
     bool complete = true;
-    const QDir target(folder->path());
     const QList<QUrl> urls = data->urls();
-    for (const QUrl &url : urls) {
-        const QString source = QDir::cleanPath(url.toLocalFile());
-        const QString name = QFileInfo(source).fileName();
-        if (!isFileName(name) || !transfer(source, target.filePath(name), action))
-            complete = false;
-    }
+    for (const QUrl &url : urls)
+        complete &= ZvFileOperations::transfer(url.toLocalFile(), folder->path(), action);
     if (folder->isListed())
         refresh(folder, false);
     return complete;
@@ -263,7 +228,7 @@ bool ZvFileSystemModel::removeRows(int row, int count, const QModelIndex &parent
     bool complete = true;
     for (int last = row + count - 1; last >= row && generation == m_generation; --last) {
         const QString path = folder->child(last)->path();
-        if (!removeFromDisk(path)) {
+        if (!ZvFileOperations::remove(path)) {
             complete = false;
             continue;
         }
@@ -397,21 +362,7 @@ ZvFileSystemNode *ZvFileSystemModel::nodeAt(const QModelIndex &index) const
 
 ZvFileSystemNode *ZvFileSystemModel::nodeAtPath(const QString &path) const
 {
-    if (!m_root || path == rootPath())
-        return m_root.get();
-    const QLatin1Char separator('/');
-    const QString below =
-        rootPath().endsWith(separator) ? rootPath() : QString(rootPath() + separator);
-    if (!path.startsWith(below))
-        return nullptr;
-    ZvFileSystemNode *node = m_root.get();
-    const QStringList names = path.mid(below.size()).split(separator);
-    for (const QString &name : names) {
-        node = node->child(node->rowFor(name, true));
-        if (!node || node->name() != name)
-            return nullptr;
-    }
-    return node;
+    return m_root ? m_root->descendant(path) : nullptr;
 }
 
 QModelIndex ZvFileSystemModel::indexOf(const ZvFileSystemNode *node) const

@@ -3,6 +3,7 @@
 #include "ZvNaturalOrder.h"
 
 #include <QDateTime>
+#include <QStringList>
 
 #include <algorithm>
 #include <iterator>
@@ -27,6 +28,25 @@ QString ZvFileSystemNode::path() const
 ZvFileSystemNode *ZvFileSystemNode::child(int row) const
 {
     return row >= 0 && row < childCount() ? m_children[static_cast<size_t>(row)].get() : nullptr;
+}
+
+ZvFileSystemNode *ZvFileSystemNode::descendant(const QString &path)
+{
+    const QLatin1Char separator('/');
+    const QString own = this->path();
+    if (path == own)
+        return this;
+    const QString below = own.endsWith(separator) ? own : QString(own + separator);
+    if (!path.startsWith(below))
+        return nullptr;
+    ZvFileSystemNode *node = this;
+    const QStringList names = path.mid(below.size()).split(separator);
+    for (const QString &name : names) {
+        node = node->child(node->rowFor(name, true));
+        if (!node || node->m_name != name)
+            return nullptr;
+    }
+    return node;
 }
 
 int ZvFileSystemNode::row() const

@@ -30,6 +30,9 @@ public:
     /// Null if @p row is out of range.
     ZvFileSystemNode *child(int row) const;
 
+    /// The folder with this absolute path here or below; null if there is none.
+    ZvFileSystemNode *descendant(const QString &path);
+
     /// Row among the parent's children; 0 for the root.
     int row() const;
 

@@ -5,8 +5,6 @@
 #include <QImage>
 #include <QPainter>
 
-#include <utility>
-
 namespace Zavo {
 
 namespace {
@@ -30,9 +28,9 @@ void ZvStagePreview::clear()
     setStage(ZvStage());
 }
 
-void ZvStagePreview::setStage(ZvStage stage)
+void ZvStagePreview::setStage(const ZvStage &stage)
 {
-    m_stage = std::move(stage);
+    m_stage = stage;
     m_picture = QPixmap();
     update();
 }

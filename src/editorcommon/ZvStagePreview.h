@@ -29,7 +29,7 @@ public Q_SLOTS:
     void clear();
 
     /// Shows @p stage; one that isEmpty() shows none.
-    void setStage(ZvStage stage);
+    void setStage(const ZvStage &stage);
 
     /// Answers in *@p image with a new picture of the stage, as large as it is shown in device
     /// pixels, or with null if there is none. The caller owns it. A null @p image is passed over.

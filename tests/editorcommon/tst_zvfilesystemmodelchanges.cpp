@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
+#include <ctime>
+#include <limits>
 #include <memory>
 
 #ifdef Q_OS_UNIX
@@ -29,21 +31,24 @@ QStringList manyNames(int count)
     return names;
 }
 
-/// What the model below @p index has fetched is what the disk holds.
-void compareWithDisk(const ZvFileSystemModel &model, const QModelIndex &index)
+/// Whether what the model has fetched below @p index is what the disk holds.
+bool isAsOnDisk(const ZvFileSystemModel &model, const QModelIndex &index)
 {
     const QString path = model.filePath(index);
     QStringList onDisk = QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     QStringList listed = namesBelow(model, index);
     onDisk.sort();
     listed.sort();
-    QCOMPARE(listed, onDisk);
+    if (listed != onDisk)
+        return false;
     for (int row = 0; row < model.rowCount(index); ++row) {
         const QModelIndex child = model.index(row, 0, index);
-        QCOMPARE(model.isDir(child), QFileInfo(model.filePath(child)).isDir());
-        if (model.isDir(child) && !model.canFetchMore(child))
-            compareWithDisk(model, child);
+        if (model.isDir(child) != QFileInfo(model.filePath(child)).isDir())
+            return false;
+        if (model.isDir(child) && !model.canFetchMore(child) && !isAsOnDisk(model, child))
+            return false;
     }
+    return true;
 }
 } // namespace
 
@@ -404,25 +409,25 @@ void tst_ZvFileSystemModelChanges::tenThousandFilesAreListedInLinearTime()
     FolderFixture big;
     small.write(manyNames(count / 10));
     big.write(manyNames(count));
+    // Time of the processor: other programs are at work on the machine, too.
     const auto list = [](const FolderFixture &folder, int expected) {
-        qint64 best = std::numeric_limits<qint64>::max();
-        for (int i = 0; i < 3; ++i) {
+        std::clock_t best = std::numeric_limits<std::clock_t>::max();
+        for (int i = 0; i < 5; ++i) {
             ZvFileSystemModel model;
-            QElapsedTimer timer;
-            timer.start();
+            const std::clock_t start = std::clock();
             const QModelIndex root = model.setRootPath(folder.root());
-            best = qMin(best, timer.nsecsElapsed());
+            best = qMin(best, std::clock() - start);
             if (model.rowCount(root) != expected)
-                return qint64(-1);
+                return std::clock_t(-1);
         }
         return best;
     };
-    const qint64 smallTime = list(small, count / 10);
-    const qint64 bigTime = list(big, count);
+    const std::clock_t smallTime = list(small, count / 10);
+    const std::clock_t bigTime = list(big, count);
     QVERIFY(smallTime > 0 && bigTime > 0);
     // Quadratic would be a hundred times as long.
     QVERIFY2(bigTime < 40 * smallTime,
-             qPrintable(QStringLiteral("%1 ns against %2 ns").arg(bigTime).arg(smallTime)));
+             qPrintable(QStringLiteral("%1 against %2").arg(bigTime).arg(smallTime)));
     ZvFileSystemModel model;
     const QModelIndex root = model.setRootPath(big.root());
     QSignalSpy inserted(&model, SIGNAL(rowsInserted(QModelIndex,int,int)));
@@ -517,9 +522,8 @@ void tst_ZvFileSystemModelChanges::stormOfRandomChanges()
         if (random.bounded(40) == 0)
             model.update();
     }
-    QTest::qWait(250);
+    QTRY_VERIFY(isAsOnDisk(model, root));
     QCOMPARE(model.rootIndex(), root);
-    compareWithDisk(model, root);
 }
 
 QTEST_MAIN(tst_ZvFileSystemModelChanges)
