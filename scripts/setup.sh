@@ -8,6 +8,8 @@ packages=(
   qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libkf5archive-dev
   # Qt's own catalogues, and fonts that cover the scripts of the example channels.
   qttranslations5-l10n fonts-dejavu-core fonts-ipafont-gothic
+  # A display for the test that copies from one program to another.
+  xvfb
 )
 if [[ "${1:-}" == lint ]]; then
   packages+=(clang-14 clang-format-14 clang-tidy-14 clazy)
