@@ -24,18 +24,6 @@ QString deletedScheduleText(const ZvScheduleBasicInfo &info)
     return day == 0 ? QString() : QLocale::system().dayName(day, QLocale::LongFormat);
 }
 
-/// Copies of the schedules that exist, in the order of @p list.
-QList<ZvSchedule> existingSchedules(const ZvScheduleWorkingArea *area,
-                                    const QList<ZvScheduleBasicInfo> &list)
-{
-    QList<ZvSchedule> existing;
-    for (const ZvSchedule &schedule : area->schedules(list)) {
-        if (!schedule.isEmpty())
-            existing.append(schedule);
-    }
-    return existing;
-}
-
 QList<ZvScheduleBasicInfo> missingSchedules(const ZvScheduleWorkingArea *area,
                                             const QList<ZvScheduleBasicInfo> &list)
 {
@@ -156,7 +144,7 @@ void ScheduleRecorder::removeAndInsertScheduleWithUndo(const QList<ZvScheduleBas
     ZvScheduleWorkingArea *area = currentWorkingArea();
     if (!area)
         return;
-    const QList<ZvSchedule> removed = existingSchedules(area, removeList);
+    const QList<ZvSchedule> removed = area->schedules(removeList);
     if (!removeList.isEmpty())
         area->removeSchedule(removeList);
     if (!insertList.isEmpty())
