@@ -6,6 +6,20 @@
 
 namespace Zavo {
 
+namespace {
+
+constexpr int millisecondsPerSecond = 1000;
+
+QTime onReachedSecond(QTime time)
+{
+    const int ms = time.msecsSinceStartOfDay();
+    const int second = (ms + ZvTime::ToleranceMs) / millisecondsPerSecond * millisecondsPerSecond;
+    const bool isShort = second > ms && second < TimeAxis::millisecondsPerDay;
+    return isShort ? QTime::fromMSecsSinceStartOfDay(second) : time;
+}
+
+} // namespace
+
 TimeBlock::TimeBlock(const QList<ZvTime> &times)
     : m_times(times)
 {
@@ -40,6 +54,16 @@ QList<ZvTime> TimeBlock::movedTo(QTime target) const
         time.setEndTime(time.endTime().addMSecs(-shift));
     }
     return moved;
+}
+
+QList<ZvTime> TimeBlock::copyOf(const QList<ZvTime> &times)
+{
+    QList<ZvTime> copy = times;
+    for (ZvTime &time : copy) {
+        time.setStartTime(onReachedSecond(time.startTime()));
+        time.setEndTime(onReachedSecond(time.endTime()));
+    }
+    return copy;
 }
 
 } // namespace Zavo

@@ -21,6 +21,10 @@ public:
     /// The records with the first one at @p target, where the block fits.
     QList<ZvTime> movedTo(QTime target) const;
 
+    /// The records as they are to be copied. The clipboard drops milliseconds, so a time that the
+    /// geometry of a band gave back just short of a second is put on it.
+    static QList<ZvTime> copyOf(const QList<ZvTime> &times);
+
 private:
     QTime start() const { return m_times.first().startTime(); }
     bool isCoherent() const;

@@ -162,7 +162,7 @@ bool TimeTablePage::copySelectedItems()
     if (!m_scheduleEnabled || !m_scene)
         return false;
     const QList<ZvTime> times = m_scene->selectedTimes();
-    ZvScheduleClipboard::writeTimesToClipboard(times);
+    ZvScheduleClipboard::writeTimesToClipboard(TimeBlock::copyOf(times));
     return !times.isEmpty();
 }
 
