@@ -14,10 +14,13 @@ const ZvSchedule *lookUp(const ZvChannel *channel, const ZvScheduleBasicInfo &in
     if (!channel)
         return nullptr;
     const QList<ZvSchedule> &schedules = channel->scheduleList();
+    // A channel keeps its schedules in order: the default, the days, the dates.
     const auto found =
-        std::find_if(schedules.cbegin(), schedules.cend(),
-                     [&info](const ZvSchedule &schedule) { return info.matches(schedule); });
-    return found == schedules.cend() ? nullptr : &*found;
+        std::lower_bound(schedules.cbegin(), schedules.cend(), info,
+                         [](const ZvSchedule &schedule, const ZvScheduleBasicInfo &searched) {
+                             return qMapLessThanKey(ZvScheduleBasicInfo(schedule), searched);
+                         });
+    return found != schedules.cend() && info.matches(*found) ? &*found : nullptr;
 }
 
 } // namespace
