@@ -16,7 +16,8 @@ class ZvStageData;
 
 /// One stage: what a display shows while a band of a schedule lasts. A value; copies share what was
 /// read. It holds what is to be seen and leaves the painting to others.
-class ZVCORE_EXPORT ZvStage
+// Derived stages of the suite are deleted as such and handed over as values without what they add.
+class ZVCORE_EXPORT ZvStage // clazy:exclude=copyable-polymorphic
 {
 public:
     /// Largest width and height of a stage and of a picture on it, in pixels.

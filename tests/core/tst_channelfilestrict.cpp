@@ -201,7 +201,7 @@ void tst_ChannelFileStrict::damagedBytesNeverGiveHalfAChannel()
     QVERIFY(ChannelFile::serialize(
         {1, 2, QStringLiteral("n\\\u00e4\U0001F600"), channel.scheduleList()}, &bytes));
     std::mt19937 random(2027);
-    for (int round = 0; round < 20000; ++round) {
+    for (int round = 0; round < 6000; ++round) {
         QByteArray damaged = bytes;
         for (unsigned i = 0; i < 1 + random() % 3; ++i) {
             const int at = int(random() % unsigned(damaged.size()));
@@ -259,7 +259,7 @@ void tst_ChannelFileStrict::timeIsLinear()
     QFETCH(QByteArray, part);
     QFETCH(QByteArray, begin);
     QFETCH(QByteArray, end);
-    constexpr int Bytes = 4 * 1024 * 1024;
+    constexpr int Bytes = 2 * 1024 * 1024;
     const QByteArray bytes = withSchedule(begin + part.repeated(Bytes / part.size()) + end);
     QElapsedTimer timer;
     timer.start();

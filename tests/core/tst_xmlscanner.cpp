@@ -292,7 +292,7 @@ void tst_XmlScanner::agreesWithAnotherReader()
                                 "\n"};
     std::mt19937 random(42);
     int taken = 0;
-    for (int round = 0; round < 60000; ++round) {
+    for (int round = 0; round < 20000; ++round) {
         QByteArray inner;
         const unsigned last = round % 2 == 0 ? 13 : unsigned(pieces.size());
         for (unsigned i = 0; i < random() % 8; ++i)
@@ -305,7 +305,7 @@ void tst_XmlScanner::agreesWithAnotherReader()
         QVERIFY2(ours == !other.hasError(), bytes.constData());
         taken += ours ? 1 : 0;
     }
-    QVERIFY(taken > 5000);
+    QVERIFY(taken > 2000);
 }
 
 void tst_XmlScanner::validUtf8_data()

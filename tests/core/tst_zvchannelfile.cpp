@@ -294,8 +294,12 @@ void tst_ZvChannelFile::writerRefuses_data()
     QTest::newRow("stage beyond a tag")
         << defaultSchedule({band({1, 0}, {2, 0}, QString(70000, QLatin1Char('n')))});
     ZvSchedule endless = defaultSchedule();
-    endless.setDefaultStage(QString(70000000, QLatin1Char('n')));
-    QTest::newRow("beyond a file") << endless;
+    endless.setDefaultStage(QString(10000000, QLatin1Char('n')));
+    QTest::newRow("default stage far beyond a tag") << endless;
+    QList<ZvTime> bands = bandsOfADay(1200);
+    for (ZvTime &each : bands)
+        each.setStageName(QString(60000, QLatin1Char('n')));
+    QTest::newRow("beyond a file") << defaultSchedule(bands);
 }
 
 void tst_ZvChannelFile::writerRefuses()

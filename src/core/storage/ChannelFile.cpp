@@ -3,6 +3,7 @@
 #include "storage/ChannelFileParser.h"
 #include "storage/ChannelFileWords.h"
 #include "storage/ScheduleOrder.h"
+#include "storage/XmlScanner.h"
 #include "storage/XmlText.h"
 
 #include <algorithm>
@@ -44,7 +45,8 @@ public:
         appendNumber("\" id=\"", record.id);
         appendNumber("\" index=\"", record.index);
         m_bytes.append('"');
-        appendString(" name=\"", record.name);
+        if (!appendString(" name=\"", record.name))
+            return false;
         m_bytes.append(record.schedules.isEmpty() ? "/>\n" : ">\n");
         for (const ZvSchedule &schedule : record.schedules) {
             if (!appendSchedule(schedule))
@@ -77,7 +79,8 @@ private:
             appendNumber(" day=\"", schedule.dayOfWeek()).append('"');
         if (schedule.type() == ZvSchedule::Date && !appendDate(schedule.date()))
             return false;
-        appendString(" defaultStage=\"", schedule.defaultStage());
+        if (!appendString(" defaultStage=\"", schedule.defaultStage()))
+            return false;
         const QList<ZvTime> &bands = schedule.timeList();
         m_bytes.append(bands.isEmpty() ? "/>\n" : ">\n");
         for (const ZvTime &band : bands) {
@@ -91,13 +94,14 @@ private:
 
     bool appendBand(const ZvTime &band)
     {
-        appendString("  <Time stage=\"", band.stageName());
+        if (!appendString("  <Time stage=\"", band.stageName()))
+            return false;
         m_bytes.append(" start=\"");
         const bool hasStart = appendTime(band.startTime());
         m_bytes.append("\" end=\"");
         const bool hasEnd = appendTime(band.endTime());
         m_bytes.append("\"/>\n");
-        // Looked at band by band, since the next string could be too much for any memory.
+        // Looked at band by band, before they are too much for any memory.
         return hasStart && hasEnd && m_bytes.size() <= MaximumBytes;
     }
 
@@ -106,11 +110,15 @@ private:
         return m_bytes.append(before).append(QByteArray::number(number));
     }
 
-    void appendString(const char *before, const QString &string)
+    bool appendString(const char *before, const QString &string)
     {
+        // No reader would take the tag.
+        if (string.size() > XmlScanner::MaximumTagBytes)
+            return false;
         m_bytes.append(before);
         XmlText::appendEscaped(string, &m_bytes);
         m_bytes.append('"');
+        return true;
     }
 
     bool appendTime(QTime time)

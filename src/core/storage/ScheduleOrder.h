@@ -2,11 +2,9 @@
 
 #include "ZvSchedule.h"
 
-namespace Zavo {
-
 /// The order of a channel's schedules and of a schedule's bands, and the rules by which they are
 /// stored. Knows neither channels nor files.
-namespace ScheduleOrder {
+namespace Zavo::ScheduleOrder {
 
 /// True if the schedule has a place in a channel: a type, and the day or date that it asks for.
 bool isPlaceable(const ZvSchedule &schedule);
@@ -31,5 +29,4 @@ QList<ZvTime> storedAgain(const QList<ZvTime> &bands, const QList<ZvTime> &store
 /// have the same key or one has no place.
 bool putInOrder(QList<ZvSchedule> *schedules);
 
-} // namespace ScheduleOrder
-} // namespace Zavo
+} // namespace Zavo::ScheduleOrder

@@ -29,8 +29,8 @@ bool parse(const QByteArray &bytes, const StagePictures &pictures, StageRecord *
 
 /// The bytes of a package as the archive library wants them. It goes in circles over some that are
 /// damaged: a place behind the end is the end here, and after more steps than any sound package
-/// needs nothing is read any more.
-class PackageDevice final : public QBuffer
+/// needs nothing is read any more. It lives on the stack, so without a parent.
+class PackageDevice final : public QBuffer // clazy:exclude=ctor-missing-parent-argument
 {
 public:
     explicit PackageDevice(QByteArray *bytes)

@@ -1,5 +1,6 @@
 #include "storage/XmlText.h"
 
+#include <algorithm>
 #include <cstring>
 #include <optional>
 
@@ -204,7 +205,27 @@ void appendEscape(uint unit, QByteArray *bytes)
         bytes->append(Digits[unit >> shift & 0xf]);
 }
 
-void appendAscii(char c, QByteArray *bytes)
+/// ASCII that stands for itself in an attribute.
+bool isPlain(QChar c)
+{
+    const ushort unit = c.unicode();
+    return unit >= 0x20 && unit < 0x7f && unit != '&' && unit != '<' && unit != '>' &&
+           unit != '"' && unit != '\\';
+}
+
+/// Appends what is plain from the place on, and returns the place behind it.
+int appendPlain(const QString &string, int from, QByteArray *bytes)
+{
+    const auto end = std::find_if_not(string.cbegin() + from, string.cend(), isPlain);
+    const auto count = static_cast<int>(end - string.cbegin()) - from;
+    bytes->resize(bytes->size() + count);
+    std::transform(string.cbegin() + from, end, bytes->end() - count,
+                   [](QChar c) { return c.toLatin1(); });
+    return from + count;
+}
+
+/// Appends an ASCII character that is not plain and no control character.
+void appendMarkup(uint c, QByteArray *bytes)
 {
     switch (c) {
     case '&':
@@ -219,12 +240,24 @@ void appendAscii(char c, QByteArray *bytes)
     case '"':
         bytes->append("&quot;");
         break;
-    case '\\':
-        bytes->append("\\\\");
-        break;
     default:
-        bytes->append(c);
+        bytes->append("\\\\");
     }
+}
+
+/// What "u" and four hexadecimal digits stand for.
+std::optional<ushort> escapedUnit(const QStringRef &escape)
+{
+    if (escape.size() != 1 + EscapeDigits || escape.at(0) != QLatin1Char('u'))
+        return {};
+    uint unit = 0;
+    for (int i = 1; i <= EscapeDigits; ++i) {
+        const int value = digitValue(escape.at(i).unicode(), HexBase);
+        if (value < 0)
+            return {};
+        unit = unit << BitsPerHexDigit | static_cast<uint>(value);
+    }
+    return static_cast<ushort>(unit);
 }
 
 /// Control characters, and what is no character, with which editors and parsers do as they please.
@@ -286,16 +319,17 @@ QString literalText(std::string_view text)
 
 void appendEscaped(const QString &string, QByteArray *bytes)
 {
-    for (int i = 0; i < string.size(); ++i) {
+    for (int i = appendPlain(string, 0, bytes); i < string.size();
+         i = appendPlain(string, i + 1, bytes)) {
         const uint unit = string.at(i).unicode();
-        if (unit >= 0x20 && unit < 0x7f) {
-            appendAscii(static_cast<char>(unit), bytes);
-        } else if (QChar::isHighSurrogate(unit) && i + 1 < string.size() &&
-                   string.at(i + 1).isLowSurrogate()) {
+        if (QChar::isHighSurrogate(unit) && i + 1 < string.size() &&
+            string.at(i + 1).isLowSurrogate()) {
             ++i;
             appendUtf8(QChar::surrogateToUcs4(QChar(unit), string.at(i)), bytes);
         } else if (needsEscape(unit)) {
             appendEscape(unit, bytes);
+        } else if (unit < 0x7f) {
+            appendMarkup(unit, bytes);
         } else {
             appendUtf8(unit, bytes);
         }
@@ -315,16 +349,10 @@ bool unescape(QString *string)
             from = at + 2;
             continue;
         }
-        if (escape.size() != 1 + EscapeDigits || !escape.startsWith(QLatin1Char('u')))
+        const std::optional<ushort> unit = escapedUnit(escape);
+        if (!unit)
             return false;
-        uint unit = 0;
-        for (const QChar digit : escape.mid(1)) {
-            const int value = digitValue(digit.unicode(), HexBase);
-            if (value < 0)
-                return false;
-            unit = unit << BitsPerHexDigit | static_cast<uint>(value);
-        }
-        result += QChar(unit);
+        result += QChar(*unit);
         from = at + 2 + EscapeDigits;
     }
     result += string->midRef(from);

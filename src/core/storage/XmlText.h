@@ -7,11 +7,9 @@
 
 #include <string_view>
 
-namespace Zavo {
-
 /// Characters of XML documents: what may stand in them, and how bytes and strings turn into each
 /// other. Character for character: nothing is replaced, composed or left out.
-namespace XmlText {
+namespace Zavo::XmlText {
 
 /// True if the bytes are UTF-8 of the shortest form and hold only characters that XML allows.
 ZVCORE_EXPORT bool isValid(std::string_view bytes);
@@ -43,5 +41,4 @@ void appendEscaped(const QString &string, QByteArray *bytes);
 /// backslash begins nothing that it would have written.
 bool unescape(QString *string);
 
-} // namespace XmlText
-} // namespace Zavo
+} // namespace Zavo::XmlText
