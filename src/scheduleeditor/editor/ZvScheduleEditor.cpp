@@ -5,6 +5,7 @@
 #include "domain/ZvScheduleBasicInfo.h"
 #include "editor/ActionRegistry.h"
 #include "editor/EditActionState.h"
+#include "editor/EditStateWatch.h"
 #include "editor/MainMenu.h"
 #include "timetable/ZvScheduleWorkingArea.h"
 #include "workspace/SavePrompt.h"
@@ -15,10 +16,8 @@
 #include "ZvEditorConfig.h"
 
 #include <QAction>
-#include <QClipboard>
 #include <QDebug>
 #include <QGraphicsScene>
-#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QTimer>
@@ -30,8 +29,7 @@ namespace Zavo {
 namespace {
 
 const QLatin1String EditorName("ScheduleEditor");
-constexpr int CreateTabsDelay = 1;   // ms
-constexpr int EditActionsDelay = 20; // ms
+constexpr int CreateTabsDelay = 1; // ms
 
 } // namespace
 
@@ -77,17 +75,15 @@ void ZvScheduleEditor::setupMainWidget()
     m_createTabsTimer = new QTimer(this);
     m_createTabsTimer->setSingleShot(true);
     m_createTabsTimer->setInterval(CreateTabsDelay);
-    m_editActionsTimer = new QTimer(this);
-    m_editActionsTimer->setSingleShot(true);
-    m_editActionsTimer->setInterval(EditActionsDelay);
     connectMainWidget();
-    connectEditActions();
     setActivatedWidget(m_mainWidget);
 }
 
 void ZvScheduleEditor::connectMainWidget()
 {
     ZvScheduleMainWidget *widget = m_mainWidget;
+    auto *editState = new EditStateWatch(widget, this);
+    connect(editState, SIGNAL(changed()), this, SLOT(onMenuEditAboutToShow()));
     // clang-format off
     connect(m_createTabsTimer, SIGNAL(timeout()), widget, SLOT(createTabs()));
     connect(widget, SIGNAL(requestClose()), this, SLOT(close()), Qt::QueuedConnection);
@@ -104,28 +100,6 @@ void ZvScheduleEditor::connectMainWidget()
     connect(widget, SIGNAL(currentChannelChanged(const ZvChannel*)),
             this, SLOT(onCurrentChannelChanged(const ZvChannel*)));
     // clang-format on
-}
-
-// Shortcuts work while no menu is open, so the edit actions follow what they depend on, once for a
-// burst of reports.
-void ZvScheduleEditor::connectEditActions()
-{
-    connect(m_editActionsTimer, SIGNAL(timeout()), this, SLOT(onMenuEditAboutToShow()));
-    // clang-format off
-    const char *const causes[] = {
-        SIGNAL(currentChannelChanged(const ZvChannel*)),
-        SIGNAL(currentScheduleInfoChanged(ZvScheduleBasicInfo)),
-        SIGNAL(scheduleStageCountChanged(ZvScheduleBasicInfo,int)),
-        SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)),
-        SIGNAL(timeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)),
-    };
-    // clang-format on
-    for (const char *cause : causes)
-        connect(m_mainWidget, cause, m_editActionsTimer, SLOT(start()));
-    QUndoGroup *undoGroup = m_mainWidget->undoGroup();
-    connect(undoGroup, SIGNAL(canUndoChanged(bool)), m_editActionsTimer, SLOT(start()));
-    connect(undoGroup, SIGNAL(canRedoChanged(bool)), m_editActionsTimer, SLOT(start()));
-    connect(QGuiApplication::clipboard(), SIGNAL(dataChanged()), m_editActionsTimer, SLOT(start()));
 }
 
 bool ZvScheduleEditor::exec()

@@ -155,7 +155,6 @@ private:
     void setupMainMenu();
     void setupMainWidget();
     void connectMainWidget();
-    void connectEditActions();
     void attatchWidgetsToMainWindow();
     void deleteWidgets();
     QString errorMessage() const;
@@ -167,7 +166,6 @@ private:
     QPointer<ZvScheduleMainWidget> m_mainWidget;
     QPointer<QWidget> m_activatedWidget;
     QTimer *m_createTabsTimer = nullptr;
-    QTimer *m_editActionsTimer = nullptr;
     bool m_saveOnClose = true;
     bool m_closed = false;
 };
