@@ -285,12 +285,16 @@ void tst_ChannelRename::menuRenames()
     main.createTabs(Names);
     main.widget->show();
     main.tabs()->setCurrentIndex(1);
-    QVERIFY(openMenu(main, main.tabs()->currentTabRect().center(), [](QMenu *menu) {
+    QString edited;
+    // A platform may take the focus from the editor when the menu's window goes, so it is looked at
+    // before.
+    QVERIFY(openMenu(main, main.tabs()->currentTabRect().center(), [&](QMenu *menu) {
         const QRect entry = menu->actionGeometry(menu->actions().first());
         QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, entry.center());
+        if (const ZvScheduleRenameTabWidget *editor = editorOf(main))
+            edited = editor->text();
     }));
-    QVERIFY(editorOf(main));
-    QCOMPARE(editorOf(main)->text(), Names[1]);
+    QCOMPARE(edited, Names[1]);
 }
 
 void tst_ChannelRename::noMenuBesideTheCurrentTab()
