@@ -76,7 +76,9 @@ void ScheduleRecorder::deleteSelectedItems()
 bool ScheduleRecorder::cutSelectedItems()
 {
     ZvScheduleWorkingArea *area = currentWorkingArea();
-    const QList<ZvTime> times = area ? area->cutSelectedItems() : QList<ZvTime>();
+    if (!area)
+        return false;
+    const QList<ZvTime> times = area->cutSelectedItems();
     if (times.isEmpty())
         return false;
     push(new UndoCommand::RemoveTimeItem(times, area->currentScheduleInfo(), area));

@@ -207,7 +207,8 @@ void ScheduleRouter::onCurrentScheduleEnabledChanged(bool enabled)
         return;
     const bool isDefault = area->currentScheduleInfo().type() == ZvSchedule::Default;
     const auto setEnabled = [this](const char *name, bool on) {
-        for (QAction *action : findActions({QLatin1String(name)}))
+        const QList<QAction *> actions = findActions({QLatin1String(name)});
+        for (QAction *action : actions)
             action->setEnabled(on);
     };
     setEnabled(ActionName::CreateSchedule, !enabled);

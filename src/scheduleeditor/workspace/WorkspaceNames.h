@@ -1,13 +1,9 @@
 #pragma once
 
-namespace Zavo {
-
 /// Object names of the workspace's widgets.
-namespace WorkspaceName {
+namespace Zavo::WorkspaceName {
 
 inline constexpr char ToolBar[] = "ScheduleToolBar";
 inline constexpr char TabWidget[] = "ScheduleTabWidget";
 
-} // namespace WorkspaceName
-
-} // namespace Zavo
+} // namespace Zavo::WorkspaceName

@@ -286,8 +286,9 @@ bool ZvScheduleMainWidget::isNameOfOtherTab(const QString &name, int tabIndex) c
 
 void ZvScheduleMainWidget::changeChannelNameWithUndo(int tabIndex, const QString &name)
 {
-    auto *area = qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget ? m_tabWidget->widget(tabIndex)
-                                                                   : nullptr);
+    if (!m_tabWidget)
+        return;
+    auto *area = qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget->widget(tabIndex));
     if (!area)
         return;
     const bool isTaken = isNameOfOtherTab(name, tabIndex);
