@@ -187,8 +187,8 @@ ZvTimeTableTimeItem *ZvTimeTableTimeZoneItem::createTimeItem(const ZvTime &time,
     item->setHorizontalScale(m_horizontalScale);
     item->setParentItem(this);
     item->setTimeInfo(time);
-    connect(item, SIGNAL(requestGettingTimeItemSelectionCount(int *)), this,
-                         SLOT(getTimeItemSelectionCount(int *)), Qt::DirectConnection);
+    connect(item, SIGNAL(requestGettingTimeItemSelectionCount(int*)), this,
+                         SLOT(getTimeItemSelectionCount(int*)), Qt::DirectConnection);
     return item;
 }
 
