@@ -2,8 +2,7 @@
 
 #include "timetable/ZvScheduleWorkingArea.h"
 
-namespace Zavo {
-namespace UndoCommand {
+namespace Zavo::UndoCommand {
 
 namespace {
 
@@ -250,5 +249,4 @@ void ResetTimeTable::redoChange()
     replaceTimes(workingArea(), m_oldTimes, m_newTimes);
 }
 
-} // namespace UndoCommand
-} // namespace Zavo
+} // namespace Zavo::UndoCommand

@@ -5,8 +5,7 @@
 
 #include <cmath>
 
-namespace Zavo {
-namespace BandMotion {
+namespace Zavo::BandMotion {
 
 namespace {
 
@@ -83,5 +82,4 @@ Span spanWithBottomMoved(const ZvTimeTableTimeItem &item, double dy)
     return {top, top + height > item.lowerBound() ? item.lowerBound() - top : height};
 }
 
-} // namespace BandMotion
-} // namespace Zavo
+} // namespace Zavo::BandMotion

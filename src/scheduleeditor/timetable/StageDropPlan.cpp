@@ -12,7 +12,7 @@ constexpr int tailLimit = 5000;                      // ms
 
 QTime latestStart()
 {
-    return QTime(23, 59, 55);
+    return {23, 59, 55};
 }
 
 /// Where a band from @p start ends: a step later, but at the end of the day if that passes

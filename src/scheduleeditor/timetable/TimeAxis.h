@@ -2,13 +2,11 @@
 
 #include <QTime>
 
-namespace Zavo {
-
 /// The vertical axis of the time table: time runs downward and one scene unit is one minute.
 ///
 /// QTime has no 24:00, so 23:59:59.999 stands for the end of the day: it is y 1450 and shows as
 /// 24 o'clock. Conversions truncate, nothing rounds to seconds.
-namespace TimeAxis {
+namespace Zavo::TimeAxis {
 
 constexpr double topMargin = 10.0;                   ///< y of 00:00:00, in scene units
 constexpr double millisecondsPerUnit = 60000.0;      ///< one scene unit is one minute
@@ -21,7 +19,7 @@ constexpr int millisecondsPerDay = 86400000;
 /// 23:59:59.999, which stands for 24 o'clock.
 inline QTime endOfDay()
 {
-    return QTime(23, 59, 59, 999);
+    return {23, 59, 59, 999};
 }
 
 inline bool isEndOfDay(QTime time)
@@ -48,5 +46,4 @@ inline QTime timeAtY(double y, double top)
     return units >= dayLength ? endOfDay() : timeOf(units);
 }
 
-} // namespace TimeAxis
-} // namespace Zavo
+} // namespace Zavo::TimeAxis

@@ -23,9 +23,9 @@ int endOf(const ZvTimeTableTimeItem *item)
     return item->endTime().msecsSinceStartOfDay();
 }
 
-bool startsEarlier(const ZvTimeTableTimeItem *item, const ZvTimeTableTimeItem *other)
+bool startsEarlier(const ZvTimeTableTimeItem *left, const ZvTimeTableTimeItem *right)
 {
-    return startOf(item) < startOf(other);
+    return startOf(left) < startOf(right);
 }
 
 void link(ZvTimeTableTimeItem *previous, ZvTimeTableTimeItem *next)

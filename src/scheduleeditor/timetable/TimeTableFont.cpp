@@ -3,8 +3,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 
-namespace Zavo {
-namespace TimeTableFont {
+namespace Zavo::TimeTableFont {
 
 namespace {
 constexpr double referenceDpi = 96.0;
@@ -28,5 +27,4 @@ QFont font(int pixelSize)
     return font;
 }
 
-} // namespace TimeTableFont
-} // namespace Zavo
+} // namespace Zavo::TimeTableFont

@@ -4,10 +4,8 @@
 
 class QPainter;
 
-namespace Zavo {
-
 /// The font of the time table's labels. Its size follows the DPI of the device that is painted on.
-namespace TimeTableFont {
+namespace Zavo::TimeTableFont {
 
 /// Font DPI of the paint device over 96.
 double dpiRatioOf(const QPainter &painter);
@@ -15,5 +13,4 @@ double dpiRatioOf(const QPainter &painter);
 int pixelSize(double dpiRatio);
 QFont font(int pixelSize);
 
-} // namespace TimeTableFont
-} // namespace Zavo
+} // namespace Zavo::TimeTableFont

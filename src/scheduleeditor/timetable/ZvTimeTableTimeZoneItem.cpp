@@ -237,7 +237,7 @@ QList<ZvTime> ZvTimeTableTimeZoneItem::insertStages(QTime start, const QStringLi
     return plan.times();
 }
 
-void ZvTimeTableTimeZoneItem::removeTimeItems(QList<ZvTime> times)
+void ZvTimeTableTimeZoneItem::removeTimeItems(const QList<ZvTime> &times)
 {
     const int countBefore = m_timeItems.count();
     {

@@ -65,7 +65,7 @@ public:
     /// was refused, after warningErrorOccured() gave the reason.
     QList<ZvTime> insertStages(QTime start, const QStringList &stageNames);
     /// Removes one band for each record that equals it; records without a band are passed over.
-    void removeTimeItems(QList<ZvTime> times);
+    void removeTimeItems(const QList<ZvTime> &times);
     void removeAllTimeItems();
     /// Gives bands new records by index, with no check of their order and no signal.
     void setTimeItemTimes(const QMap<int, ZvTime> &itemTimes);
