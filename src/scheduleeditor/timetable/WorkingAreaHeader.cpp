@@ -1,5 +1,6 @@
 #include "timetable/WorkingAreaHeader.h"
 
+#include "domain/ToolButtonStyle.h"
 #include "stages/ZvScheduleDefaultStageWidget.h"
 
 #include <QHBoxLayout>
@@ -12,16 +13,6 @@ namespace {
 
 constexpr int createButtonHeightPx = 24;
 constexpr int gapPx = 9;
-
-const QLatin1String createButtonStyle(
-    "QToolButton{border-style: none;margin: 1px;color: black;}"
-    "QToolButton:hover{background-color: rgb(240, 240, 250);border-style: solid;"
-    "border-color: rgb(190, 190, 200);border-width: 1px;border-radius: 2px;}"
-    "QToolButton:pressed, QToolButton::menu-button{background-color: rgb(204, 204, 255);"
-    "border-style: solid;border-color: rgb( 180, 180, 180);border-width: 1px;"
-    "border-radius: 2px;}"
-    "QToolButton::menu-indicator{width:7px;height:7px;left:1px;top:1px;}"
-    "QToolButton::menu-indicator:pressed{left:0px;top:0px;}");
 
 } // namespace
 
@@ -49,7 +40,7 @@ QWidget *WorkingAreaHeader::newCreateWidget()
 {
     auto *widget = new QWidget(this);
     auto *button = new QToolButton(widget);
-    button->setStyleSheet(createButtonStyle);
+    button->setStyleSheet(QLatin1String(ToolButtonStyle));
     button->setMinimumHeight(createButtonHeightPx);
     button->setText(tr("You can create this schedule."));
     button->setAutoRaise(false);

@@ -1,0 +1,24 @@
+#pragma once
+
+/// Names that the widgets of schedule navigation are found by.
+namespace Zavo::NavigationName {
+
+// The parts of a QCalendarWidget.
+inline constexpr char CalendarView[] = "qt_calendar_calendarview";
+inline constexpr char CalendarNavigationBar[] = "qt_calendar_navigationbar";
+inline constexpr char CalendarPreviousMonth[] = "qt_calendar_prevmonth";
+inline constexpr char CalendarNextMonth[] = "qt_calendar_nextmonth";
+inline constexpr char CalendarMonthButton[] = "qt_calendar_monthbutton";
+inline constexpr char CalendarYearButton[] = "qt_calendar_yearbutton";
+
+inline constexpr char CalendarMenuButton[] = "zv_calendar_menubutton";
+/// Property of the year button: the word behind the year.
+inline constexpr char YearNameProperty[] = "yearname";
+
+inline constexpr char FirstDayOfWeekMenu[] = "Menu_First_Day_Of_Week";
+inline constexpr char ClearSelectionsAction[] = "Action_ClearSelections";
+inline constexpr char ShowWeekNumberAction[] = "Action_ShowWeekNumber";
+/// Followed by the number of the day.
+inline constexpr char FirstDayOfWeekActionPrefix[] = "Action_FirstDayOfWeek_";
+
+} // namespace Zavo::NavigationName
