@@ -54,9 +54,9 @@ void tst_MainMenu::menus()
         QVERIFY(!menu->parent());
     }
     QCOMPARE(titles, (QStringList{QStringLiteral("&File"), QStringLiteral("&Edit"),
-                                  QStringLiteral("&Channel")}));
-    QCOMPARE(names,
-             (QStringList{QString(), QStringLiteral("Menu_Edit"), QStringLiteral("Menu_Channel")}));
+                                  QStringLiteral("&Channel"), QStringLiteral("&Window")}));
+    QCOMPARE(names, (QStringList{QString(), QStringLiteral("Menu_Edit"),
+                                 QStringLiteral("Menu_Channel"), QStringLiteral("Menu_Window")}));
     QCOMPARE(host.editor->getMenu(QStringLiteral("Menu_Channel")), menus.at(2));
 }
 
@@ -88,6 +88,11 @@ void tst_MainMenu::rows_data()
     row("Action_Delete_Schedule", "&Delete Schedule...", QKeySequence(), true);
     row("Action_Rename_Channel", "&Rename Channel", QKeySequence(), false);
     row("Action_Channel_Configuration", "Channel Configura&tion...", QKeySequence(), false);
+    row("Action_Set_Visible_Switch_Schedule", "&Switch Schedule", QKeySequence(), false);
+    row("Action_Set_Visible_Schedule_List", "Schedule &List", QKeySequence(), false);
+    row("Action_Set_Visible_Choose_Stage", "&Choose Stage", QKeySequence(), false);
+    row("Action_Set_Visible_Item_Property", "&Assigned Item Property", QKeySequence(), false);
+    row("Action_Window_To_Default_Position", "To &Default Position", QKeySequence(), false);
 }
 
 void tst_MainMenu::rows()
@@ -101,7 +106,7 @@ void tst_MainMenu::rows()
     QCOMPARE(action->shortcut(), shortcut);
     QCOMPARE(!action->icon().isNull(), hasIcon);
     QCOMPARE(!action->icon().pixmap(16, 16).isNull(), hasIcon);
-    QVERIFY(!action->isCheckable());
+    QCOMPARE(action->isCheckable(), action->objectName().startsWith(QStringLiteral("Action_Set_")));
 }
 
 void tst_MainMenu::orderOfRows_data()
@@ -119,6 +124,9 @@ void tst_MainMenu::orderOfRows_data()
     QTest::newRow("channel") << 2
                              << list("&Upload...,&Output Channel Data...,,&New Schedule,&Delete "
                                      "Schedule...,,&Rename Channel,,Channel Configura&tion...");
+    QTest::newRow("window") << 3
+                            << list("&Switch Schedule,Schedule &List,&Choose Stage,&Assigned Item "
+                                    "Property,,To &Default Position");
 }
 
 void tst_MainMenu::orderOfRows()
@@ -243,7 +251,7 @@ void tst_MainMenu::calendarMenu()
     host.editor->setCalendarMenu(calendar);
     host.editor->setCalendarMenu(calendar);
     QCOMPARE(host.editor->menu().indexOf(calendar), 2);
-    QCOMPARE(host.editor->menu().size(), 4);
+    QCOMPARE(host.editor->menu().size(), 5);
     QCOMPARE(host.editor->takeCalendarMenu(), calendar.data());
     host.editor->setCalendarMenu(calendar);
     host.window.reset();

@@ -28,6 +28,12 @@ inline constexpr char CreateChannel[] = "Action_Create_Channel";
 inline constexpr char DeleteChannel[] = "Action_Delete_Channel";
 inline constexpr char ChannelConfiguration[] = "Action_Channel_Configuration";
 
+inline constexpr char SetVisibleSwitchSchedule[] = "Action_Set_Visible_Switch_Schedule";
+inline constexpr char SetVisibleScheduleList[] = "Action_Set_Visible_Schedule_List";
+inline constexpr char SetVisibleChooseStage[] = "Action_Set_Visible_Choose_Stage";
+inline constexpr char SetVisibleItemProperty[] = "Action_Set_Visible_Item_Property";
+inline constexpr char WindowToDefaultPosition[] = "Action_Window_To_Default_Position";
+
 inline constexpr char ChangeChannelName[] = "Action_Change_Channel_Name";
 inline constexpr char CloseStage[] = "Action_Close_Stage";
 

@@ -30,7 +30,7 @@ constexpr Shortcut keys(const char *sequence)
     return {QKeySequence::UnknownKey, sequence};
 }
 
-// A row without a text is a separator.
+// A row without a text is a separator. The slot of a checkable row takes whether it is checked.
 struct ActionRow
 {
     const char *name = nullptr;
@@ -38,6 +38,7 @@ struct ActionRow
     Shortcut shortcut;
     const char *icon = nullptr;
     const char *slot = nullptr;
+    bool checkable = false;
 };
 
 constexpr ActionRow Separator{};
@@ -96,6 +97,25 @@ constexpr ActionRow ChannelRows[] = {
      "action_channel_configuration()"},
 };
 
+constexpr ActionRow WindowRows[] = {
+    {ActionName::SetVisibleSwitchSchedule,
+     QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Switch Schedule"), NoKeys, nullptr,
+     "setVisibleSwitchSchdule(bool)", true},
+    {ActionName::SetVisibleScheduleList,
+     QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "Schedule &List"), NoKeys, nullptr,
+     "setVisibleScheduleList(bool)", true},
+    {ActionName::SetVisibleChooseStage,
+     QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Choose Stage"), NoKeys, nullptr,
+     "setVisibleChooseStage(bool)", true},
+    {ActionName::SetVisibleItemProperty,
+     QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Assigned Item Property"), NoKeys, nullptr,
+     "setVisibleItemProperty(bool)", true},
+    Separator,
+    {ActionName::WindowToDefaultPosition,
+     QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "To &Default Position"), NoKeys, nullptr,
+     "action_window_to_default_position()"},
+};
+
 struct MenuRow
 {
     const char *name;
@@ -115,6 +135,7 @@ constexpr MenuRow Menus[] = {
     menuOf(nullptr, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&File"), FileRows),
     menuOf(MenuName::Edit, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Edit"), EditRows),
     menuOf(MenuName::Channel, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Channel"), ChannelRows),
+    menuOf(MenuName::Window, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Window"), WindowRows),
 };
 
 QString translated(const char *text)
@@ -143,7 +164,9 @@ void addRow(QMenu *menu, const ActionRow &row, ActionRegistry *registry, QObject
         action->setIcon(QIcon(QLatin1String(row.icon)));
     setShortcut(action, row.shortcut);
     const QByteArray slot = QByteArray::number(QSLOT_CODE) + row.slot;
-    QObject::connect(action, SIGNAL(triggered()), receiver, slot.constData());
+    action->setCheckable(row.checkable);
+    const char *signal = row.checkable ? SIGNAL(toggled(bool)) : SIGNAL(triggered());
+    QObject::connect(action, signal, receiver, slot.constData());
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "editor/EditActionState.h"
 #include "editor/EditStateWatch.h"
 #include "editor/MainMenu.h"
+#include "editor/ScheduleDocks.h"
 #include "timetable/ZvScheduleWorkingArea.h"
 #include "workspace/SavePrompt.h"
 #include "workspace/ZvScheduleMainWidget.h"
@@ -37,6 +38,7 @@ ZvScheduleEditor::ZvScheduleEditor(QMainWindow *window)
     : QObject(window)
     , m_mainWindow(window)
     , m_registry(std::make_unique<ActionRegistry>())
+    , m_docks(std::make_unique<ScheduleDocks>(window))
 {
     setObjectName(EditorName);
     setup();
@@ -53,6 +55,7 @@ bool ZvScheduleEditor::setup()
     setupMainMenu();
     qRegisterMetaType<QList<ZvChannel *>>("QList<ZvChannel*>");
     setupMainWidget();
+    setupDocks();
     return true;
 }
 
@@ -61,6 +64,8 @@ void ZvScheduleEditor::setupMainMenu()
     createMainMenu(m_registry.get(), this);
     QMenu *editMenu = getMenu(QLatin1String(MenuName::Edit));
     connect(editMenu, SIGNAL(aboutToShow()), this, SLOT(onMenuEditAboutToShow()));
+    connect(getMenu(QLatin1String(MenuName::Window)), SIGNAL(aboutToShow()), this,
+                                                             SLOT(onMenuWindowAboutToShow()));
     getAction(QLatin1String(ActionName::Upload))
         ->setEnabled(!ZvEditorConfig::getConfig()->allInOne());
 }
@@ -113,14 +118,11 @@ bool ZvScheduleEditor::exec()
         return false;
     }
     attatchWidgetsToMainWindow();
-    m_createTabsTimer->start();
+    const QPointer<ZvScheduleEditor> self(this);
+    restoreDockWidgetSetting(false);
+    if (self && !m_closed)
+        m_createTabsTimer->start();
     return true;
-}
-
-void ZvScheduleEditor::attatchWidgetsToMainWindow()
-{
-    m_mainWindow->setCentralWidget(m_mainWidget);
-    m_mainWidget->show();
 }
 
 bool ZvScheduleEditor::hasError(QString *message) const
@@ -151,6 +153,7 @@ void ZvScheduleEditor::close()
         m_mainWidget->confirmSaveChannels(SavePrompt::BeforeClosing);
     if (!self)
         return;
+    storeAllWidgetGeometry();
     deleteWidgets();
     if (self)
         Q_EMIT closed();
@@ -166,6 +169,7 @@ void ZvScheduleEditor::deleteWidgets()
         m_mainWidget->deleteLater();
         m_mainWidget.clear();
     }
+    m_docks->giveUp();
     if (!scenes.isEmpty())
         Q_EMIT graphicsScenePurged(scenes);
 }

@@ -11,6 +11,7 @@
 #include <memory>
 
 class QAction;
+class QDockWidget;
 class QGraphicsScene;
 class QMainWindow;
 class QMenu;
@@ -19,6 +20,7 @@ class QTimer;
 namespace Zavo {
 
 class ActionRegistry;
+class ScheduleDocks;
 class ZvChannel;
 class ZvScheduleBasicInfo;
 class ZvScheduleMainWidget;
@@ -85,9 +87,12 @@ public:
     ZvScheduleCommonInterface::SelectedType hasSelectedItems() const;
     bool isPastingPossible() const;
 
+    /// Fits the title buttons of the docks to their screen. No event is consumed.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 public Q_SLOTS:
-    /// Asks about modified channels, gives up all widgets and scenes and emits closed(). A second
-    /// call does nothing.
+    /// Asks about modified channels, stores the layout of the window, gives up all widgets and
+    /// scenes and emits closed(). A second call does nothing.
     void close();
 
     /// Asks the host to quit, which normally answers by close().
@@ -121,6 +126,12 @@ public Q_SLOTS:
     void action_rename_channel();
     void action_channel_configuration();
 
+    /// Brings all docks back to their default places and sizes. What is stored stays.
+    void action_window_to_default_position();
+
+    /// Writes the docks of the window with their geometry to the debug log.
+    void action_dock_test();
+
     void onCurrentChannelChanged(const ZvChannel *channel);
 
 Q_SIGNALS:
@@ -146,6 +157,12 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void onMenuEditAboutToShow();
+    void onMenuWindowAboutToShow();
+    void restoreDockWidgetSetting(bool useDefault = false);
+    void setVisibleSwitchSchdule(bool visible);
+    void setVisibleScheduleList(bool visible);
+    void setVisibleChooseStage(bool visible);
+    void setVisibleItemProperty(bool visible);
     void onGraphicsScenePurged(QGraphicsScene *scene);
     void startScheduleValidator(const QList<ZvChannel *> &channelList);
     void answerCurrentScheduleType(ZvScheduleBasicInfo *info) const;
@@ -155,13 +172,18 @@ private:
     void setupMainMenu();
     void setupMainWidget();
     void connectMainWidget();
+    void setupDocks();
     void attatchWidgetsToMainWindow();
+    void restoreAllWidgetGeometry();
+    void storeAllWidgetGeometry();
+    static void setDockWidgetVisible(QDockWidget *dock, bool visible);
     void deleteWidgets();
     QString errorMessage() const;
     void setErrorMessage(const QString &message);
 
     QMainWindow *m_mainWindow = nullptr;
     std::unique_ptr<ActionRegistry> m_registry;
+    std::unique_ptr<ScheduleDocks> m_docks;
     QString m_errorText;
     QPointer<ZvScheduleMainWidget> m_mainWidget;
     QPointer<QWidget> m_activatedWidget;
