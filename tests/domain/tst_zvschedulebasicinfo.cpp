@@ -1,5 +1,6 @@
 #include "domain/ZvScheduleBasicInfo.h"
 
+#include <QSet>
 #include <QtTest>
 
 #include <algorithm>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void ordersAsWritten();
     void keyOrderIsStrictAndFollowsTheOrder();
     void mapFindsEveryKey();
+    void hashFindsEveryKey();
     void crossesVariants();
 };
 
@@ -239,6 +241,23 @@ void tst_ZvScheduleBasicInfo::mapFindsEveryKey()
         QCOMPARE(map.value(ordered.at(i), -1), i);
     QVERIFY(!map.contains(ZvScheduleBasicInfo(christmas.addDays(-1))));
     QCOMPARE(map.remove(ZvScheduleBasicInfo(ZvSchedule::Default)), 1);
+}
+
+void tst_ZvScheduleBasicInfo::hashFindsEveryKey()
+{
+    const QList<ZvScheduleBasicInfo> infos = everyKindOfKey();
+    const QSet<ZvScheduleBasicInfo> set(infos.cbegin(), infos.cend());
+    QCOMPARE(set.size(), infos.size());
+    for (const ZvScheduleBasicInfo &info : infos)
+        QVERIFY(set.contains(info));
+    QVERIFY(!set.contains(ZvScheduleBasicInfo(christmas.addDays(-1))));
+
+    ZvScheduleBasicInfo defaultWithDate(ZvSchedule::Default);
+    defaultWithDate.setDate(christmas);
+    QVERIFY(set.contains(defaultWithDate));
+    ZvScheduleBasicInfo mondayWithDate(Weekday::Monday);
+    mondayWithDate.setDate(christmas);
+    QVERIFY(set.contains(mondayWithDate));
 }
 
 void tst_ZvScheduleBasicInfo::crossesVariants()

@@ -1,7 +1,7 @@
 #include "WorkingAreaFixture.h"
 
 #include "SignalLog.h"
-#include "timetable/ChannelSchedules.h"
+#include "domain/ChannelSchedules.h"
 
 #include <QtTest>
 

@@ -1,5 +1,7 @@
 #include "domain/ZvScheduleBasicInfo.h"
 
+#include <QHash>
+
 namespace Zavo {
 
 namespace {
@@ -136,6 +138,18 @@ bool precedesAsKey(const ZvScheduleBasicInfo &first, const ZvScheduleBasicInfo &
     if (first.type() == second.type())
         return first < second;
     return rankAsKey(first.type()) < rankAsKey(second.type());
+}
+
+uint qHash(const ZvScheduleBasicInfo &info, uint seed)
+{
+    switch (info.type()) {
+    case ZvSchedule::Date:
+        return ::qHash(info.date().toJulianDay(), seed);
+    case ZvSchedule::DayOfWeek:
+        return ::qHash(static_cast<int>(info.dayOfWeek()), seed);
+    default:
+        return seed;
+    }
 }
 
 } // namespace Zavo

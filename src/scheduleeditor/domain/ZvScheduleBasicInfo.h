@@ -57,6 +57,9 @@ private:
 /// Strict order for the keys of maps: default, days, dates, each within itself by operator<.
 bool precedesAsKey(const ZvScheduleBasicInfo &first, const ZvScheduleBasicInfo &second);
 
+/// Equal for infos that are equal.
+uint qHash(const ZvScheduleBasicInfo &info, uint seed = 0);
+
 } // namespace Zavo
 
 Q_DECLARE_TYPEINFO(Zavo::ZvScheduleBasicInfo, Q_MOVABLE_TYPE);

@@ -1,4 +1,4 @@
-#include "timetable/ChannelSchedules.h"
+#include "domain/ChannelSchedules.h"
 
 #include "ZvChannel.h"
 #include "domain/ZvScheduleBasicInfo.h"
