@@ -3,6 +3,23 @@
 /// Names that the widgets of schedule navigation are found by.
 namespace Zavo::NavigationName {
 
+// The frames of the switcher and what they hold. A name begins with the word of the SelectionType
+// that it stands for.
+inline constexpr char CalendarFrame[] = "CalendarSelectedWidget";
+inline constexpr char CalendarWidget[] = "CalendarWidget";
+inline constexpr char CalendarOuterWidget[] = "CalendarOuterWidget";
+inline constexpr char WeekFrame[] = "WeekSelectedWidget";
+inline constexpr char WeekWidget[] = "WeekWidget";
+inline constexpr char DefaultFrame[] = "DefaultScheduleSelectedWidget";
+inline constexpr char DefaultWidget[] = "DefaultScheduleWidget";
+
+inline constexpr char ExecutedSchedule[] = "zv_schedule_executed_name";
+
+// Properties that style sheets read.
+inline constexpr char SelectedProperty[] = "selected";
+inline constexpr char PressedProperty[] = "pressed";
+inline constexpr char ScheduledProperty[] = "scheduled";
+
 // The parts of a QCalendarWidget.
 inline constexpr char CalendarView[] = "qt_calendar_calendarview";
 inline constexpr char CalendarNavigationBar[] = "qt_calendar_navigationbar";

@@ -1,0 +1,65 @@
+#include "navigation/ZvTodayWidget.h"
+
+#include "navigation/LookState.h"
+#include "navigation/NavigationNames.h"
+
+#include <QDate>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+
+namespace Zavo {
+
+namespace {
+
+constexpr int SpacerPx = 9;
+
+const QLatin1String TodayStyle(
+    "QFrame:hover{background-color: rgb(240, 240, 250);border-width: 1px;border-style: solid;"
+    "border-radius: 4px;border-color: rgb(190, 190, 200);}"
+    "QLabel:hover{border-style: none;background-color: transparent;}"
+    "QFrame[pressed=\"true\"]{background-color: rgb(204, 204, 255);border-width: 1px;"
+    "border-style: solid;border-radius: 4px;border-color: rgb(154, 154, 205);}"
+    "QLabel[pressed=\"true\"]{border-style: none;background-color: transparent;}"
+    "QLabel{font-weight:bold;}");
+
+} // namespace
+
+ZvTodayWidget::ZvTodayWidget(QWidget *parent)
+    : QFrame(parent)
+    , m_titleLabel(new QLabel(tr("Today:"), this))
+    , m_dateLabel(new QLabel(this))
+    , m_dayLabel(new QLabel(this))
+{
+    setAttribute(Qt::WA_MouseTracking);
+    setProperty(NavigationName::PressedProperty, false);
+    setStyleSheet(TodayStyle);
+    const QDate today = QDate::currentDate();
+    const QLocale locale = QLocale::system();
+    m_dateLabel->setText(locale.toString(today, QLocale::LongFormat));
+    m_dayLabel->setText(locale.dayName(today.dayOfWeek(), QLocale::LongFormat));
+
+    auto *layout = new QHBoxLayout(this);
+    layout->addWidget(m_titleLabel);
+    layout->addWidget(m_dateLabel);
+    layout->addWidget(m_dayLabel);
+    layout->addItem(
+        new QSpacerItem(SpacerPx, SpacerPx, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    setToolTip(tr("Move to Today"));
+}
+
+void ZvTodayWidget::mousePressEvent(QMouseEvent *event)
+{
+    setLookState(this, NavigationName::PressedProperty, true);
+    Q_EMIT mousePressed();
+    QFrame::mousePressEvent(event);
+}
+
+void ZvTodayWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    setLookState(this, NavigationName::PressedProperty, false);
+    Q_EMIT mouseReleased();
+    QFrame::mouseReleaseEvent(event);
+}
+
+} // namespace Zavo
