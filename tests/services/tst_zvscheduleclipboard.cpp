@@ -73,6 +73,7 @@ private Q_SLOTS:
     void schedulesRoundTrip();
     void namesRoundTrip_data();
     void namesRoundTrip();
+    void oddNamesSpareTheirNeighbours();
     void readsTimes_data();
     void readsTimes();
     void readsSchedules_data();
@@ -190,6 +191,23 @@ void tst_ZvScheduleClipboard::namesRoundTrip_data()
         "\xC3\xBC\xE6\x97\xA5\xE6\x9C\xAC\xF0\x9F\x8E\xAC.xml");
     QTest::newRow("right to left") << QString::fromUtf8("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D.xml");
     QTest::newRow("long") << QString(60000, QLatin1Char('x'));
+    // What a file may be called, but XML cannot hold.
+    const auto with = [](ushort unit) { return QStringLiteral("a%1b\\c.xml").arg(QChar(unit)); };
+    QTest::newRow("control character") << with(0x1);
+    QTest::newRow("form feed") << with(0xc);
+    QTest::newRow("unit separator") << with(0x1f);
+    QTest::newRow("delete") << with(0x7f);
+    QTest::newRow("high control character") << with(0x85);
+    QTest::newRow("byte order mark") << with(0xfeff);
+    QTest::newRow("no character") << with(0xfffe);
+    QTest::newRow("last unit") << with(0xffff);
+    QTest::newRow("high surrogate alone") << with(0xd83c);
+    QTest::newRow("low surrogate alone") << with(0xdfac);
+    QTest::newRow("surrogates in the wrong order")
+        << QString(QChar(0xdfac)) + QChar(0xd83c) + QStringLiteral(".xml");
+    QTest::newRow("surrogate at the end") << QStringLiteral("a") + QChar(0xd83c);
+    QTest::newRow("no character of another plane") << QString::fromUtf8("\xF0\x9F\xBF\xBE.xml");
+    QTest::newRow("backslashes") << QStringLiteral("a\\u0001\\\\b.xml");
 }
 
 void tst_ZvScheduleClipboard::namesRoundTrip()
@@ -204,6 +222,38 @@ void tst_ZvScheduleClipboard::namesRoundTrip()
     QCOMPARE(schedules.size(), 1);
     QCOMPARE(schedules.first().defaultStage(), name);
     QCOMPARE(schedules.first().timeList(), QList<ZvTime>{time});
+}
+
+// Whatever a stage is called, the bands beside it arrive, and names that XML can hold stand in the
+// payload as they are.
+void tst_ZvScheduleClipboard::oddNamesSpareTheirNeighbours()
+{
+    const QString odd = QStringLiteral("a\\") + QChar(0x1) + QChar(0xd83c);
+    const QList<ZvTime> times{band("08:00:00", "09:00:00", "a\\u0001.xml"),
+                              ZvTime(QTime(9, 0), QTime(10, 0), odd),
+                              band("10:00:00", "11:00:00", "c.xml")};
+    const QByteArray bands =
+        QByteArrayLiteral("<TimeData><Time Stage=\"a\\u0001.xml\" Start=\"08:00:00\" "
+                          "End=\"09:00:00\"/><Time Stage=\"a\\\\\\u0001\\ud83c\" "
+                          "Start=\"09:00:00\" End=\"10:00:00\" Escaped=\"true\"/>"
+                          "<Time Stage=\"c.xml\" Start=\"10:00:00\" End=\"11:00:00\"/></TimeData>");
+    QCOMPARE(ZvScheduleClipboard::timesToXml(times), xmlHead + bands + "\n");
+    QCOMPARE(ZvScheduleClipboard::xmlToTimes(xmlHead + bands), times);
+
+    const QList<ZvSchedule> schedules{schedule(ZvSchedule::Default, odd, times),
+                                      daySchedule(Weekday::Friday, QStringLiteral("d.xml"), times)};
+    const QByteArray xml = ZvScheduleClipboard::schedulesToXml(schedules);
+    QVERIFY(xml.contains("DefaultStage=\"a\\\\\\u0001\\ud83c\" Escaped=\"true\"><TimeData>"));
+    QVERIFY(xml.contains("DefaultStage=\"d.xml\"><TimeData>"));
+    const QList<ZvSchedule> read = ZvScheduleClipboard::xmlToSchedules(xml);
+    QCOMPARE(read.size(), 2);
+    QCOMPARE(read.at(0).defaultStage(), odd);
+    QCOMPARE(read.at(0).timeList(), times);
+    QCOMPARE(read.at(1).timeList(), times);
+    // An escape that is none is the name itself.
+    const QByteArray broken = "<TimeData><Time Stage=\"a\\x\" Start=\"08:00:00\" End=\"09:00:00\" "
+                              "Escaped=\"true\"/></TimeData>";
+    QCOMPARE(ZvScheduleClipboard::xmlToTimes(broken).value(0).stageName(), QStringLiteral("a\\x"));
 }
 
 void tst_ZvScheduleClipboard::readsTimes_data()

@@ -266,6 +266,20 @@ bool needsEscape(uint unit)
     return unit < 0x20 || (unit >= 0x7f && unit < 0xa0) || QChar::isSurrogate(unit) ||
            unit == ByteOrderMark || unit >= 0xfffe;
 }
+
+/// The character that begins at the place; a surrogate without its other half stands for itself.
+uint characterAt(const QString &string, int at)
+{
+    const QChar c = string.at(at);
+    if (c.isHighSurrogate() && at + 1 < string.size() && string.at(at + 1).isLowSurrogate())
+        return QChar::surrogateToUcs4(c, string.at(at + 1));
+    return c.unicode();
+}
+
+int unitCount(uint c)
+{
+    return QChar::requiresSurrogates(c) ? 2 : 1;
+}
 } // namespace
 
 bool isValid(std::string_view bytes)
@@ -315,6 +329,36 @@ QString elementText(std::string_view text)
 QString literalText(std::string_view text)
 {
     return Decoder(text, Place::Literal).run();
+}
+
+bool canHold(const QString &string)
+{
+    for (int at = 0; at < string.size();) {
+        const uint c = characterAt(string, at);
+        if (!isCharacter(c))
+            return false;
+        at += unitCount(c);
+    }
+    return true;
+}
+
+QString escaped(const QString &string)
+{
+    QString result;
+    for (int at = 0; at < string.size();) {
+        const uint c = characterAt(string, at);
+        QByteArray escape;
+        if (c == '\\')
+            escape = "\\\\";
+        else if (needsEscape(c) && unitCount(c) == 1)
+            appendEscape(c, &escape);
+        if (escape.isEmpty())
+            result += string.midRef(at, unitCount(c));
+        else
+            result += QLatin1String(escape);
+        at += unitCount(c);
+    }
+    return result;
 }
 
 void appendEscaped(const QString &string, QByteArray *bytes)

@@ -32,6 +32,14 @@ QString elementText(std::string_view text);
 /// The string of a CDATA section: as elementText(), but nothing is a reference.
 QString literalText(std::string_view text);
 
+/// True if a document can hold the string as it is: XML allows each of its characters, and no
+/// surrogate is without its other half.
+ZVCORE_EXPORT bool canHold(const QString &string);
+
+/// The string with what XML would lose or refuse, and with backslashes, written as appendEscaped()
+/// does. unescape() takes it back.
+ZVCORE_EXPORT QString escaped(const QString &string);
+
 /// Appends the string as the value of an attribute of which attributeValue() and unescaped() give
 /// back every code unit: what XML would lose or refuse is written as a backslash, u and four
 /// hexadecimal digits, and a backslash is doubled.
@@ -39,6 +47,6 @@ void appendEscaped(const QString &string, QByteArray *bytes);
 
 /// Takes back what appendEscaped() did with backslashes. False, with @p string untouched, if a
 /// backslash begins nothing that it would have written.
-bool unescape(QString *string);
+ZVCORE_EXPORT bool unescape(QString *string);
 
 } // namespace Zavo::XmlText

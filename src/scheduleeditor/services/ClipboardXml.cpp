@@ -1,5 +1,7 @@
 #include "services/ClipboardXml.h"
 
+#include "storage/XmlText.h"
+
 #include <QDate>
 #include <QTime>
 
@@ -17,6 +19,7 @@ constexpr char defaultStageAttribute[] = "DefaultStage";
 constexpr char stageAttribute[] = "Stage";
 constexpr char startAttribute[] = "Start";
 constexpr char endAttribute[] = "End";
+constexpr char escapedAttribute[] = "Escaped"; // only where XML cannot hold the name of the stage
 constexpr char defaultType[] = "default";
 
 constexpr int maximumDepth = 16;          // ours are four deep
@@ -26,6 +29,14 @@ constexpr int maximumTagSize = 64 * 1024; // bytes, with the text up to the next
 QString latin(const char *text)
 {
     return QString::fromLatin1(text);
+}
+
+QString stageNameOf(const QXmlStreamAttributes &attributes, const char *attribute)
+{
+    QString name = attributes.value(QLatin1String(attribute)).toString();
+    if (attributes.value(QLatin1String(escapedAttribute)) == QLatin1String("true"))
+        XmlText::unescape(&name);
+    return name;
 }
 
 QString dateFormat()
@@ -129,7 +140,8 @@ void ClipboardXmlWriter::writeSchedule(const ZvSchedule &schedule)
     m_writer.writeAttribute(latin(enabledAttribute), latin(enabled ? "true" : "false"));
     if (enabled) {
         m_writer.writeAttribute(latin(typeAttribute), typeText(schedule));
-        m_writer.writeAttribute(latin(defaultStageAttribute), schedule.defaultStage());
+        writeStageName(defaultStageAttribute, schedule.defaultStage());
+        writeEscapedMark(schedule.defaultStage());
         writeTimeData(schedule.timeList());
     }
     m_writer.writeEndElement();
@@ -141,12 +153,26 @@ void ClipboardXmlWriter::writeTimeData(const QList<ZvTime> &times)
     m_writer.writeStartElement(latin(timeDataElement));
     for (const ZvTime &time : times) {
         m_writer.writeStartElement(latin(timeElement));
-        m_writer.writeAttribute(latin(stageAttribute), time.stageName());
+        writeStageName(stageAttribute, time.stageName());
         m_writer.writeAttribute(latin(startAttribute), time.startTime().toString(format));
         m_writer.writeAttribute(latin(endAttribute), time.endTime().toString(format));
+        writeEscapedMark(time.stageName());
         m_writer.writeEndElement();
     }
     m_writer.writeEndElement();
+}
+
+// The stream writer would leave a character out, or spoil all that follows.
+void ClipboardXmlWriter::writeStageName(const char *attribute, const QString &name)
+{
+    m_writer.writeAttribute(latin(attribute),
+                            XmlText::canHold(name) ? name : XmlText::escaped(name));
+}
+
+void ClipboardXmlWriter::writeEscapedMark(const QString &name)
+{
+    if (!XmlText::canHold(name))
+        m_writer.writeAttribute(latin(escapedAttribute), latin("true"));
 }
 
 ClipboardXmlReader::ClipboardXmlReader(const QByteArray &xml, int maximumScheduleCount,
@@ -213,7 +239,7 @@ ZvSchedule ClipboardXmlReader::readSchedule()
     ZvSchedule schedule;
     schedule.setType(ZvSchedule::Default);
     schedule.setDayOfWeek(Weekday::Monday);
-    schedule.setDefaultStage(attributes.value(QLatin1String(defaultStageAttribute)).toString());
+    schedule.setDefaultStage(stageNameOf(attributes, defaultStageAttribute));
     applyType(attributes.value(QLatin1String(typeAttribute)).toString(), &schedule);
 
     while (!m_reader.atEnd() && !isEnd(scheduleElement)) {
@@ -259,7 +285,7 @@ void ClipboardXmlReader::appendTime(QList<ZvTime> *times)
         return QTime::fromString(attributes.value(QLatin1String(name)).toString(), Qt::TextDate);
     };
     ZvTime time(timeOf(startAttribute), timeOf(endAttribute),
-                attributes.value(QLatin1String(stageAttribute)).toString());
+                stageNameOf(attributes, stageAttribute));
     if (!time.isEmpty())
         times->append(time);
     m_isBeyondLimit = times->size() > m_maximumTimeCount;

@@ -10,7 +10,8 @@
 
 namespace Zavo {
 
-/// Writes the clipboard's elements.
+/// Writes the clipboard's elements. A stage whose name XML cannot hold, which file systems allow,
+/// is written with escapes, and its element says so.
 class ClipboardXmlWriter
 {
 public:
@@ -22,6 +23,8 @@ public:
 private:
     void writeSchedule(const ZvSchedule &schedule);
     void writeTimeData(const QList<ZvTime> &times);
+    void writeStageName(const char *attribute, const QString &name);
+    void writeEscapedMark(const QString &name);
 
     QXmlStreamWriter m_writer;
 };
