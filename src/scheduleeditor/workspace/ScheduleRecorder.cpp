@@ -7,6 +7,7 @@
 #include "workspace/ChannelSaver.h"
 
 #include <QLocale>
+#include <QPointer>
 #include <QUndoGroup>
 #include <QUndoStack>
 
@@ -107,9 +108,11 @@ void ScheduleRecorder::createScheduleWithUndo(const QList<ZvScheduleBasicInfo> &
 
 void ScheduleRecorder::removeScheduleByCurrentInfoWithUndo()
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
     if (!area ||
         !confirmDelete(tr("the schedule of %1").arg(area->currentScheduleName()), QString()))
+        return;
+    if (!area) // The question runs an event loop.
         return;
     ChannelSaver::storeTable(area);
     const ZvScheduleBasicInfo info = area->currentScheduleInfo();
@@ -121,7 +124,7 @@ void ScheduleRecorder::removeScheduleByCurrentInfoWithUndo()
 void ScheduleRecorder::removeScheduleWithUndo(const QList<ZvScheduleBasicInfo> &list,
                                               bool showConfirm)
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
     if (!area)
         return;
     if (showConfirm) {
@@ -130,7 +133,7 @@ void ScheduleRecorder::removeScheduleWithUndo(const QList<ZvScheduleBasicInfo> &
         QString details = numberedTexts(list, deletedScheduleText);
         if (!details.isEmpty())
             details.prepend(tr("The following schedule will be deleted.\n\n"));
-        if (!confirmDelete(subject, details))
+        if (!confirmDelete(subject, details) || !area)
             return;
     }
     ChannelSaver::storeTable(area);
