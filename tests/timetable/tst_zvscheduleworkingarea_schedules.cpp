@@ -37,6 +37,8 @@ private Q_SLOTS:
     void removedTableIsNotStoredBack();
     void storesNothingFromWithinARemoval();
 
+    void reportsFindTheChannelUpToDate();
+
     void insertsSchedules();
     void insertedScheduleIsShown();
     void tableOnShowWinsOverAnInsertedSchedule();
@@ -212,6 +214,27 @@ void tst_ZvScheduleWorkingAreaSchedules::storesNothingFromWithinARemoval()
     });
     page.area()->removeScheduleByCurrentInfo();
     QVERIFY(!page.area()->hasSchedule(mondayInfo));
+}
+
+void tst_ZvScheduleWorkingAreaSchedules::reportsFindTheChannelUpToDate()
+{
+    WorkingAreaFixture page({scheduleOf(defaultInfo)});
+    page.area()->switchToDefaultSchedule();
+    QList<QStringList> found;
+    const auto look = [&] { found.append(page.storedTexts(defaultInfo)); };
+    connect(page.area(), &ZvScheduleWorkingArea::scheduleCreated, page.area(), look);
+    connect(page.area(), &ZvScheduleWorkingArea::scheduleRemoved, page.area(), look);
+
+    page.area()->insertTimeItems(oneBand);
+    page.area()->createSchedule(mondayInfo);
+    page.area()->insertTimeItems(otherBand);
+    page.area()->removeSchedule(mondayInfo);
+    QCOMPARE(found, QList<QStringList>({textOf(oneBand), textOf(oneBand + otherBand)}));
+
+    // What is gone stays gone, and a table without a record gets none.
+    page.area()->removeSchedule(defaultInfo);
+    page.area()->createSchedule(mondayInfo);
+    QCOMPARE(page.channel()->scheduleList().size(), 1);
 }
 
 void tst_ZvScheduleWorkingAreaSchedules::insertsSchedules()

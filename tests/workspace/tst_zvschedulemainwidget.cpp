@@ -35,6 +35,7 @@ private Q_SLOTS:
     void tabsAreCreatedOnce();
     void tabsWaitForTheWidgets();
     void signalsOfTheStart();
+    void tabShowsItsChannelUpToDate();
     void folderCannotBeCreated();
     void defaultChannelCannotBeWritten();
     void addedChannelGetsItsTab();
@@ -196,6 +197,22 @@ void tst_ZvScheduleMainWidget::signalsOfTheStart()
     QCOMPARE(list.size(), 3);
     for (int i = 0; i < 3; ++i)
         QCOMPARE(list.at(i), main.area(i)->channel());
+}
+
+void tst_ZvScheduleMainWidget::tabShowsItsChannelUpToDate()
+{
+    MainWidgetFixture main;
+    main.createTabs({QStringLiteral("a"), QStringLiteral("b")});
+    main.area(0)->setDefaultStageName(QStringLiteral("d.xml"));
+    main.tabs()->setCurrentIndex(1);
+    QStringList stages;
+    connect(main.widget.get(), &ZvScheduleMainWidget::currentChannelChanged, main.widget.get(),
+            [&stages](const ZvChannel *channel) {
+                const QList<ZvSchedule> &schedules = channel->scheduleList();
+                stages.append(schedules.first().defaultStage());
+            });
+    main.tabs()->setCurrentIndex(0);
+    QCOMPARE(stages, QStringList{QStringLiteral("d.xml")});
 }
 
 void tst_ZvScheduleMainWidget::folderCannotBeCreated()

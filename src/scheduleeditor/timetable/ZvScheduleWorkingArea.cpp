@@ -164,6 +164,12 @@ void ZvScheduleWorkingArea::storeCurrentSchedule()
     m_channel->insertSchedule(schedule);
 }
 
+void ZvScheduleWorkingArea::refreshStoredSchedule()
+{
+    if (isCurrentScheduleEnabled() && hasSchedule(m_currentInfo))
+        storeCurrentSchedule();
+}
+
 void ZvScheduleWorkingArea::createSchedule(const QList<ZvScheduleBasicInfo> &list)
 {
     if (!m_channel)
@@ -180,8 +186,10 @@ void ZvScheduleWorkingArea::createSchedule(const QList<ZvScheduleBasicInfo> &lis
         if (info == current)
             switchToScheduleInfo(info, true);
     }
-    if (!indices.isEmpty())
-        Q_EMIT scheduleCreated(indices, current);
+    if (indices.isEmpty())
+        return;
+    refreshStoredSchedule();
+    Q_EMIT scheduleCreated(indices, current);
 }
 
 void ZvScheduleWorkingArea::createSchedule(const ZvScheduleBasicInfo &info)
@@ -211,6 +219,7 @@ void ZvScheduleWorkingArea::removeSchedule(const QList<ZvScheduleBasicInfo> &lis
         forgetSchedule();
         switchToScheduleInfo(current, true);
     }
+    refreshStoredSchedule();
     Q_EMIT scheduleRemoved(removed, current);
 }
 

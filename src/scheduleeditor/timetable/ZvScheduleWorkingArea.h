@@ -56,6 +56,9 @@ public:
     void switchToScheduleInfo(const ZvScheduleBasicInfo &info, bool force);
     /// Stores the table on show in the channel under the current info, enabled or not.
     void storeCurrentSchedule();
+    /// Brings the channel's record of the schedule on show up to date, if there is one. Reports of
+    /// changed schedules and tabs find it so.
+    void refreshStoredSchedule();
 
 public Q_SLOTS:
     void switchToDefaultSchedule();

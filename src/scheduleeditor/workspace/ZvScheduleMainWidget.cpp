@@ -258,6 +258,8 @@ void ZvScheduleMainWidget::onTabCurrentIndexChanged(int index)
     if (!area)
         return;
     showWorkingArea(area);
+    // The receivers read the channel, which may know less than the table of the page.
+    area->refreshStoredSchedule();
     Q_EMIT currentChannelChanged(area->channel());
 }
 
