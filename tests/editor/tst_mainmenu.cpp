@@ -87,6 +87,8 @@ void tst_MainMenu::rows_data()
     row("Action_Create_Schedule", "&New Schedule", QKeySequence(), true);
     row("Action_Delete_Schedule", "&Delete Schedule...", QKeySequence(), true);
     row("Action_Rename_Channel", "&Rename Channel", QKeySequence(), false);
+    row("Action_Create_Channel", "&Add Channel...", QKeySequence(), true);
+    row("Action_Delete_Channel", "D&elete Channel...", QKeySequence(), true);
     row("Action_Channel_Configuration", "Channel Configura&tion...", QKeySequence(), false);
     row("Action_Set_Visible_Switch_Schedule", "&Switch Schedule", QKeySequence(), false);
     row("Action_Set_Visible_Schedule_List", "Schedule &List", QKeySequence(), false);
@@ -123,7 +125,8 @@ void tst_MainMenu::orderOfRows_data()
         << 1 << list("&Undo,&Redo,,&Cut,&Copy,&Paste,&Delete,,Select &All,Deselect A&ll");
     QTest::newRow("channel") << 2
                              << list("&Upload...,&Output Channel Data...,,&New Schedule,&Delete "
-                                     "Schedule...,,&Rename Channel,,Channel Configura&tion...");
+                                     "Schedule...,,&Rename Channel,&Add Channel...,D&elete "
+                                     "Channel...,,Channel Configura&tion...");
     QTest::newRow("window") << 3
                             << list("&Switch Schedule,Schedule &List,&Choose Stage,&Assigned Item "
                                     "Property,,To &Default Position");
@@ -189,6 +192,7 @@ void tst_MainMenu::mainWidgetActions()
              (QStringList{
                  QStringLiteral("Action_Save_Channel"), QStringLiteral("Action_Save_All_Channel"),
                  QStringLiteral("Action_Create_Schedule"), QStringLiteral("Action_Delete_Schedule"),
+                 QStringLiteral("Action_Create_Channel"), QStringLiteral("Action_Delete_Channel"),
                  QStringLiteral("Action_Output_Channel_Data"), QStringLiteral("Action_Upload")}));
 }
 
@@ -262,9 +266,12 @@ void tst_MainMenu::firstTab()
 {
     EditorFixture host;
     QVERIFY(host.start());
+    QVERIFY(!host.action("Action_Delete_Channel")->isEnabled());
     QVERIFY(host.action("Action_Rename_Channel")->isEnabled());
     host.editor->onCurrentChannelChanged(nullptr);
+    QVERIFY(!host.action("Action_Delete_Channel")->isEnabled());
     host.tabs()->setCurrentIndex(2);
+    QVERIFY(host.action("Action_Delete_Channel")->isEnabled());
     QVERIFY(host.action("Action_Rename_Channel")->isEnabled());
 }
 

@@ -380,6 +380,18 @@ void ZvScheduleEditor::action_rename_channel()
         m_mainWidget->toEditTabName();
 }
 
+void ZvScheduleEditor::action_create_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->addNewChannel();
+}
+
+void ZvScheduleEditor::action_delete_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->removeCurrentChannel();
+}
+
 void ZvScheduleEditor::action_channel_configuration()
 {
     showChannelConfiguration();

@@ -124,6 +124,8 @@ public Q_SLOTS:
     void action_create_schedule();
     void action_delete_schedule();
     void action_rename_channel();
+    void action_create_channel();
+    void action_delete_channel();
     void action_channel_configuration();
 
     /// Brings all docks back to their default places and sizes. What is stored stays.

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace Zavo {
@@ -16,6 +18,7 @@ namespace {
 
 constexpr int DefaultChannelCount = 10;
 constexpr int MaximumNumberLength = 5;
+constexpr int MaximumId = std::numeric_limits<int>::max();
 
 const QLatin1String ChannelFolderName("channel");
 const QLatin1String BasicFileName("channel.xml");
@@ -118,7 +121,7 @@ bool ChannelFolder::createDefaultChannels(Channels *channels) const
         if (number == 0)
             channel = basicChannelAsNumberZero();
         if (!channel)
-            channel = newDefaultChannel(number);
+            channel = newChannel(channelFilePath(number), number, number, defaultName(number));
         if (!channel->writeToFile())
             return false;
         if (channel->id() == BasicChannelId)
@@ -128,16 +131,42 @@ bool ChannelFolder::createDefaultChannels(Channels *channels) const
     return true;
 }
 
-std::unique_ptr<ZvChannel> ChannelFolder::newDefaultChannel(int number) const
+std::unique_ptr<ZvChannel> ChannelFolder::newChannel(const QString &filePath, int id, int index,
+                                                     const QString &name)
 {
-    auto channel = channelOfFile(channelFilePath(number));
-    channel->setId(number);
-    channel->setIndex(number);
-    channel->setName(defaultName(number));
+    auto channel = channelOfFile(filePath);
+    channel->setId(id);
+    channel->setIndex(index);
+    channel->setName(name);
     ZvSchedule schedule;
     schedule.setType(ZvSchedule::Default);
     channel->insertSchedule(schedule);
     return channel;
+}
+
+std::optional<int> ChannelFolder::freeId(const QList<int> &takenIds)
+{
+    const int largest = takenIds.isEmpty() ? BasicChannelId - 1 : takenIds.last();
+    if (largest != MaximumId)
+        return largest + 1;
+    const auto first = std::lower_bound(takenIds.cbegin(), takenIds.cend(), 0);
+    int id = 0;
+    for (auto taken = first; taken != takenIds.cend() && *taken == id && id != MaximumId; ++taken)
+        ++id;
+    return id == MaximumId ? std::nullopt : std::optional<int>(id);
+}
+
+QString ChannelFolder::freeFilePath(int id) const
+{
+    const QString ownPath = channelFilePath(id);
+    if (!isTaken(ownPath))
+        return ownPath;
+    for (int number = 0; number < MaximumId; ++number) {
+        const QString path = channelFilePath(number);
+        if (!isTaken(path))
+            return path;
+    }
+    return {};
 }
 
 // Null without a basic file. A basic file that cannot be read still makes the channel, as it was

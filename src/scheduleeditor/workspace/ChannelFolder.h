@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Zavo {
@@ -44,6 +45,18 @@ public:
     /// be read are passed over and stay as they are.
     LoadResult load(Channels *channels) const;
 
+    /// The id of one more channel beside those with the ids @p takenIds, in ascending order: one
+    /// above the largest, or the smallest free one from 0 if none is above. Empty if all are taken.
+    static std::optional<int> freeId(const QList<int> &takenIds);
+
+    /// Absolute path of a file for the new channel with the id @p id: the one of that number or, if
+    /// its name is taken by whatever it be, the first free one from 0. Empty if none is free.
+    QString freeFilePath(int id) const;
+
+    /// A channel as it is at its beginning, with one empty default schedule. It is not written.
+    static std::unique_ptr<ZvChannel> newChannel(const QString &filePath, int id, int index,
+                                                 const QString &name);
+
     /// Replaces the basic file beside the file of @p channel by a copy of that file. The old one is
     /// removed first, so a channel that lives in the basic file itself loses it. Neither step
     /// reports a failure.
@@ -54,7 +67,6 @@ private:
     bool create() const;
     Channels readChannels(const QStringList &fileNames) const;
     bool createDefaultChannels(Channels *channels) const;
-    std::unique_ptr<ZvChannel> newDefaultChannel(int number) const;
     std::unique_ptr<ZvChannel> basicChannelAsNumberZero() const;
     void applyBasicFile(Channels *channels) const;
     QString channelFilePath(int number) const;

@@ -5,8 +5,11 @@
 #include "domain/ZvScheduleCommon.h"
 #include "services/UndoCommands.h"
 #include "timetable/ZvScheduleWorkingArea.h"
+#include "workspace/ChannelCreation.h"
 #include "workspace/ChannelFolder.h"
+#include "workspace/ChannelNaming.h"
 #include "workspace/ChannelSaver.h"
+#include "workspace/HiddenMeanwhile.h"
 #include "workspace/ScheduleToolBar.h"
 #include "workspace/WorkspaceNames.h"
 #include "workspace/ZvScheduleTabWidget.h"
@@ -16,9 +19,9 @@
 
 #include <QAction>
 #include <QEvent>
+#include <QFile>
 #include <QGraphicsScene>
 #include <QMenu>
-#include <QRegularExpression>
 #include <QTimer>
 #include <QUndoGroup>
 #include <QUndoStack>
@@ -29,31 +32,6 @@ namespace Zavo {
 namespace {
 
 constexpr int RetryDelay = 1; // ms
-
-// A shown tab bar lays out all its tabs whenever one is added; a hidden one does it once at the
-// end.
-class HiddenMeanwhile final
-{
-    Q_DISABLE_COPY(HiddenMeanwhile)
-
-public:
-    explicit HiddenMeanwhile(QWidget *widget)
-        : m_widget(widget)
-        , m_wasVisible(widget->isVisible())
-    {
-        if (m_wasVisible)
-            m_widget->hide();
-    }
-    ~HiddenMeanwhile()
-    {
-        if (m_wasVisible)
-            m_widget->show();
-    }
-
-private:
-    QWidget *m_widget;
-    bool m_wasVisible;
-};
 
 } // namespace
 
@@ -188,7 +166,80 @@ void ZvScheduleMainWidget::addChannel(ZvChannel *channel)
     connect(area, SIGNAL(channelNameChanged(QString,ZvScheduleWorkingArea*)),
             this, SLOT(onChannlNameChanged(QString,ZvScheduleWorkingArea*)));
     // clang-format on
-    area->setTabIndex(m_tabWidget->addTab(area, m_channelIcon, channel->name()));
+    // The first tab is current, and reported with its index, before it has been added.
+    area->setTabIndex(m_tabWidget->count());
+    m_tabWidget->addTab(area, m_channelIcon, channel->name());
+}
+
+void ZvScheduleMainWidget::addNewChannel()
+{
+    if (!m_tabWidget)
+        return;
+    m_tabWidget->finishEditing();
+    QString error;
+    // The file says one place too few until the channel is saved; only the added tab has its place.
+    auto channel = ChannelCreation::create(ChannelFolder(ZvEditorConfig::dataDir()),
+                                           m_areaById.keys(), m_tabWidget->count() - 1, &error);
+    if (!channel) {
+        showCritical(tr("Add New Channel"), error);
+        return;
+    }
+    ZvChannel *added = channel.release();
+    addChannel(added);
+    m_tabWidget->setCurrentIndex(added->index());
+}
+
+bool ZvScheduleMainWidget::confirmChannelDeletion(const QString &channelName)
+{
+    const QString text =
+        tr("The channel \"%1\" will be deleted.\nAfter it has been deleted, it can "
+           "not be undone.\n\nAre you sure that you want to delete this channel?")
+            .arg(channelName);
+    return showMessageBox(this, QMessageBox::Warning, tr("Delete Channel"), text,
+                          QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+void ZvScheduleMainWidget::removeCurrentChannel()
+{
+    const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
+    if (!area || !area->channel())
+        return;
+    m_tabWidget->finishEditing();
+    if (!area || !confirmChannelDeletion(area->channelName()) || !area)
+        return;
+    if (!QFile::remove(area->channel()->filePath())) {
+        showCritical(tr("Delete Channel"),
+                     tr("The channel file can not be deleted.\nPlease check whether it is possible "
+                        "to delete the file."));
+        return;
+    }
+    removeTab(area);
+}
+
+// The docks let go of the page's bands when another tab becomes current; without one they are told.
+void ZvScheduleMainWidget::removeTab(ZvScheduleWorkingArea *area)
+{
+    undoGroup()->removeStack(area->undoStack());
+    m_tabWidget->removeTab(m_tabWidget->indexOf(area));
+    forgetArea(area);
+    if (m_tabWidget->count() == 0)
+        Q_EMIT timeTableTimeItemHasNotSelected(area);
+    delete area;
+}
+
+// Of two channels with the same id only one is entered. The other takes its place, so that it is
+// saved with all.
+void ZvScheduleMainWidget::forgetArea(const ZvScheduleWorkingArea *area)
+{
+    const int id = area->channel()->id();
+    if (m_areaById.value(id) != area)
+        return;
+    m_areaById.remove(id);
+    for (int i = 0; i < m_tabWidget->count(); ++i) {
+        auto *other = qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget->widget(i));
+        if (other && other->channel() && other->channel()->id() == id)
+            m_areaById.insert(id, other);
+    }
 }
 
 QList<QGraphicsScene *> ZvScheduleMainWidget::takeGraphicsScenes()
@@ -277,13 +328,14 @@ void ZvScheduleMainWidget::activeTab(QWidget *widget)
 
 // Names
 
-bool ZvScheduleMainWidget::isNameOfOtherTab(const QString &name, int tabIndex) const
+QStringList ZvScheduleMainWidget::namesOfOtherTabs(int tabIndex) const
 {
+    QStringList names;
     for (int i = 0; i < m_tabWidget->count(); ++i) {
-        if (i != tabIndex && m_tabWidget->tabText(i) == name)
-            return true;
+        if (i != tabIndex)
+            names.append(m_tabWidget->tabText(i));
     }
-    return false;
+    return names;
 }
 
 void ZvScheduleMainWidget::changeChannelNameWithUndo(int tabIndex, const QString &name)
@@ -293,19 +345,13 @@ void ZvScheduleMainWidget::changeChannelNameWithUndo(int tabIndex, const QString
     auto *area = qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget->widget(tabIndex));
     if (!area)
         return;
-    const bool isTaken = isNameOfOtherTab(name, tabIndex);
+    const QString refusal = ChannelNaming::refusal(name, namesOfOtherTabs(tabIndex));
     m_tabWidget->setCurrentIndex(tabIndex);
-    static const QRegularExpression forbidden(QStringLiteral("[<>:\"/\\\\|?*]"));
-    if (name.contains(forbidden)) {
-        refuseName(tr("The following characters are not there not be able to use.\n\n  < > : \" / "
-                      "\\ | ? \n\nYou have to specify another name."));
-    } else if (isTaken) {
-        refuseName(tr("New name \"%1\" is already used by other channel.\nYou have to specify "
-                      "another name.")
-                       .arg(name));
-    } else {
+    if (refusal.isEmpty()) {
         undoGroup()->activeStack()->push(
             new UndoCommand::ChangeChannelName(name, area->channelName(), area));
+    } else {
+        refuseName(refusal);
     }
 }
 

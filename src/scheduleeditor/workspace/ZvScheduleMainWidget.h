@@ -58,6 +58,14 @@ public Q_SLOTS:
     /// Renews the basic file from the file of @p channel.
     void saveAsBasicChannelFile(ZvChannel *channel);
 
+    /// Makes one more channel, whose file is written first, and shows its tab. Tells the user if
+    /// there can be none.
+    void addNewChannel();
+
+    /// Asks, then deletes the file of the current channel and with it tab, page and history. The
+    /// basic channel is guarded by whoever offers the command. Tells the user if the file stays.
+    void removeCurrentChannel();
+
     /// Gives the channel of the tab another name, as a step of undo. A name that another tab has or
     /// that holds a forbidden character is refused with a message.
     void changeChannelNameWithUndo(int tabIndex, const QString &name);
@@ -91,7 +99,10 @@ private:
     ScheduleToolBar *createToolBar();
     ZvScheduleTabWidget *createTabWidget();
     void addChannels(const QList<ZvChannel *> &channels);
-    bool isNameOfOtherTab(const QString &name, int tabIndex) const;
+    bool confirmChannelDeletion(const QString &channelName);
+    void removeTab(ZvScheduleWorkingArea *area);
+    void forgetArea(const ZvScheduleWorkingArea *area);
+    QStringList namesOfOtherTabs(int tabIndex) const;
     void refuseName(const QString &text);
     void showCritical(const QString &title, const QString &text);
 

@@ -143,6 +143,15 @@ void ZvScheduleTabWidget::editTabNameRequested()
     editor->show();
     editor->selectAll();
     editor->setFocus();
+    // Not before: the focus has ended an editing that was under way.
+    m_editor = editor;
+    m_editedPage = widget(index);
+}
+
+void ZvScheduleTabWidget::finishEditing()
+{
+    if (m_editor && m_editor->isVisible())
+        Q_EMIT m_editor->QLineEdit::editingFinished();
 }
 
 void ZvScheduleTabWidget::editingTabNameFinished(QObject *object)
@@ -154,8 +163,10 @@ void ZvScheduleTabWidget::editingTabNameFinished(QObject *object)
     const QString initialText = editor->initialText();
     editor->hide();
     editor->deleteLater();
-    if (!text.isEmpty() && text != initialText)
-        Q_EMIT requestChangeTabName(currentIndex(), text);
+    // A wheel over the bar or a command may have made another tab current meanwhile.
+    const int index = m_editedPage ? indexOf(m_editedPage) : -1;
+    if (index >= 0 && !text.isEmpty() && text != initialText)
+        Q_EMIT requestChangeTabName(index, text);
 }
 
 } // namespace Zavo

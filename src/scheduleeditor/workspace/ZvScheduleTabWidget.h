@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QPointer>
 #include <QRect>
 #include <QTabWidget>
 
 class QMouseEvent;
 
 namespace Zavo {
+
+class ZvScheduleRenameTabWidget;
 
 /// Holds the channel pages, each a ZvScheduleWorkingArea. Its tabs can be dragged, but the first
 /// one stays where it is and no other is dragged past it. Positions are the indices of the
@@ -21,6 +24,9 @@ public:
     QRect currentTabRect() const;
 
     void moveTab(int from, int to);
+
+    /// Ends a rename that is under way, as if the in-place editor had been left.
+    void finishEditing();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -41,7 +47,8 @@ Q_SIGNALS:
     /// A double click on the bar, or F2. Queued, so that the bar has done with its event.
     void requestEditTabName();
 
-    /// The in-place editor was left with the text @p name, neither empty nor the old one.
+    /// The in-place editor was left with the text @p name, neither empty nor the old one. It was
+    /// opened for the tab that is at @p tabIndex now.
     void requestChangeTabName(int tabIndex, const QString &name);
 
     /// After the pages between @p from and @p to have their new positions.
@@ -64,6 +71,8 @@ private:
     QRect m_firstTabRect;
     int m_dragOffset = 0;
     bool m_pressed = false;
+    QPointer<ZvScheduleRenameTabWidget> m_editor;
+    QPointer<QWidget> m_editedPage;
 };
 
 } // namespace Zavo
