@@ -24,6 +24,7 @@ class ScheduleDocks;
 class ZvChannel;
 class ZvScheduleBasicInfo;
 class ZvScheduleMainWidget;
+class ZvScheduleStageChooserWidget;
 
 /// The schedule editor as a host sees it. It fills a window of the host with its widgets, hands out
 /// menus to install, and asks by signals for whatever lies outside of it.
@@ -188,6 +189,7 @@ private:
     std::unique_ptr<ScheduleDocks> m_docks;
     QString m_errorText;
     QPointer<ZvScheduleMainWidget> m_mainWidget;
+    QPointer<ZvScheduleStageChooserWidget> m_stageChooser;
     QPointer<QWidget> m_activatedWidget;
     QTimer *m_createTabsTimer = nullptr;
     bool m_saveOnClose = true;

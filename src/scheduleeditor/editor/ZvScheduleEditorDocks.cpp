@@ -3,6 +3,8 @@
 #include "domain/ActionNames.h"
 #include "editor/DockNames.h"
 #include "editor/ScheduleDocks.h"
+#include "editor/StageWiring.h"
+#include "stages/ZvScheduleStageChooserWidget.h"
 #include "workspace/ZvScheduleMainWidget.h"
 
 #include "ZvConfig.h"
@@ -17,16 +19,22 @@
 #include <QEvent>
 #include <QMainWindow>
 #include <QSignalBlocker>
+#include <QTimer>
 
 // The editor's docks: when they are made, filled, laid out and kept.
 namespace Zavo {
+
+namespace {
+constexpr int PreviewSizeDelay = 1; // ms, for the layout of the window to settle
+} // namespace
 
 // The frames, in this order. The content of a dock is made, put into its frame by setWidget() and
 // connected right after the frame.
 void ZvScheduleEditor::setupDocks()
 {
     m_docks->create(ScheduleDocks::SwitchSchedule, this);
-    m_docks->create(ScheduleDocks::ChooseStage, this);
+    QDockWidget *stages = m_docks->create(ScheduleDocks::ChooseStage, this);
+    m_stageChooser = fillStageDock(stages, m_mainWidget);
     m_docks->create(ScheduleDocks::ItemProperty, this);
     m_docks->create(ScheduleDocks::ScheduleList, this);
 }
@@ -37,6 +45,8 @@ void ZvScheduleEditor::attatchWidgetsToMainWindow()
         return;
     m_mainWindow->setCentralWidget(m_mainWidget);
     m_mainWidget->show();
+    if (m_stageChooser)
+        m_stageChooser->setPreviewVisible(true);
     m_docks->attach();
 }
 
@@ -49,10 +59,15 @@ void ZvScheduleEditor::restoreDockWidgetSetting(bool useDefault)
         return;
     if (!useDefault)
         restoreAllWidgetGeometry();
+    if (m_stageChooser)
+        QTimer::singleShot(PreviewSizeDelay, m_stageChooser, SLOT(setPreviewSizeToDefault()));
 }
 
 void ZvScheduleEditor::restoreAllWidgetGeometry()
 {
+    const QString previewKey = QLatin1String(DockSettingsKey::StagePreviewVisible);
+    if (m_stageChooser)
+        m_stageChooser->setPreviewVisible(ZvEditorUserConfig::value(previewKey, true).toBool());
     m_docks->restore(objectName());
     if (!m_mainWidget || ZvEditorConfig::getConfig()->defaultScheduleUsedFirst())
         return;
@@ -77,6 +92,9 @@ void ZvScheduleEditor::storeAllWidgetGeometry()
     if (!m_docks->isAttached())
         return;
     m_docks->store(objectName());
+    if (m_stageChooser)
+        ZvEditorUserConfig::setValue(QLatin1String(DockSettingsKey::StagePreviewVisible),
+                                     m_stageChooser->isPreviewVisible());
     ZvEditorUserConfig::sync();
 }
 

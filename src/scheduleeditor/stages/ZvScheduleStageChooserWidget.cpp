@@ -65,7 +65,7 @@ ZvScheduleStageChooserWidget::ZvScheduleStageChooserWidget(QWidget *parent)
 
 void ZvScheduleStageChooserWidget::setupPreview()
 {
-    m_previewCheckBox->setStyleSheet(checkBoxStyle(m_dpiRatio.ratio()));
+    scaleIcons();
     m_previewCheckBox->setChecked(true);
     m_preview->setMinimumSize(smallestPreview);
     m_preview->setFrameStyle(QFrame::StyledPanel);
@@ -180,12 +180,17 @@ void ZvScheduleStageChooserWidget::onIsCurrentScheduleEnabled(bool *enabled)
     Q_EMIT requestIsCurrentScheduleEnabled(enabled);
 }
 
+void ZvScheduleStageChooserWidget::scaleIcons()
+{
+    m_previewCheckBox->setStyleSheet(checkBoxStyle(m_dpiRatio.ratio()));
+    const int iconLength = static_cast<int>(iconPx * m_dpiRatio.ratio());
+    m_listView->setIconSize({iconLength, iconLength});
+}
+
 void ZvScheduleStageChooserWidget::applyDpiRatio()
 {
     const double ratio = m_dpiRatio.ratio();
-    m_previewCheckBox->setStyleSheet(checkBoxStyle(ratio));
-    const int iconLength = static_cast<int>(iconPx * ratio);
-    m_listView->setIconSize({iconLength, iconLength});
+    scaleIcons();
     m_preview->setMinimumSize(scaled(m_previewMinimumSize, ratio));
     m_preview->setMaximumSize(scaled(m_previewMaximumSize, ratio));
 }

@@ -68,6 +68,7 @@ private:
     QWidget *createListPane();
     void setupContent();
     void connectWidgets();
+    void scaleIcons();
     void applyDpiRatio();
 
     ZvStagePreview *m_preview;
