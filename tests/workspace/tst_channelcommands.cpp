@@ -4,11 +4,9 @@
 #include "WriteFailure.h"
 
 #include "workspace/ChannelFolder.h"
-#include "workspace/ZvScheduleRenameTabWidget.h"
 
 #include <QDir>
 #include <QSignalSpy>
-#include <QTabBar>
 #include <QTimer>
 #include <QUndoGroup>
 #include <QUndoStack>
@@ -63,16 +61,6 @@ void remove(const MainWidgetFixture &main, int index)
     main.widget->removeCurrentChannel();
 }
 
-ZvScheduleRenameTabWidget *editorOf(const MainWidgetFixture &main)
-{
-    const auto editors = main.tabs()->findChildren<ZvScheduleRenameTabWidget *>();
-    for (ZvScheduleRenameTabWidget *editor : editors) {
-        if (editor->isVisible())
-            return editor;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class tst_ChannelCommands : public QObject
@@ -107,10 +95,6 @@ private Q_SLOTS:
     void sameIdTwice();
     void widgetDiesDuringTheQuestion();
     void withoutWidgets();
-    void renameEndsBeforeTheNextCommand_data();
-    void renameEndsBeforeTheNextCommand();
-    void renameGoesToItsTab();
-    void renameOfADeletedChannel();
 };
 
 void tst_ChannelCommands::added()
@@ -548,72 +532,6 @@ void tst_ChannelCommands::withoutWidgets()
     widget.addNewChannel();
     widget.removeCurrentChannel();
     QVERIFY(data.names().isEmpty());
-}
-
-void tst_ChannelCommands::renameEndsBeforeTheNextCommand_data()
-{
-    QTest::addColumn<bool>("adds");
-    QTest::newRow("add") << true;
-    QTest::newRow("delete") << false;
-}
-
-void tst_ChannelCommands::renameEndsBeforeTheNextCommand()
-{
-    QFETCH(bool, adds);
-    MainWidgetFixture main;
-    main.createTabs(Names);
-    main.widget->show();
-    main.tabs()->setCurrentIndex(1);
-    main.widget->toEditTabName();
-    QTest::keyClicks(editorOf(main), QStringLiteral("Foyer"));
-    if (adds) {
-        main.widget->addNewChannel();
-        QCOMPARE(main.tabTexts(), (QStringList{Names[0], QStringLiteral("Foyer"), Names[2],
-                                               QStringLiteral("Ch.3")}));
-        QCOMPARE(main.tabs()->currentIndex(), 3);
-    } else {
-        MessageBoxAnswer answer;
-        answer.expect(QMessageBox::Yes).text(deleteText(QStringLiteral("Foyer")));
-        main.widget->removeCurrentChannel();
-        QCOMPARE(main.tabTexts(), (QStringList{Names[0], Names[2]}));
-    }
-    QVERIFY(!editorOf(main));
-}
-
-void tst_ChannelCommands::renameGoesToItsTab()
-{
-    MainWidgetFixture main;
-    main.createTabs(Names);
-    main.widget->show();
-    main.tabs()->setCurrentIndex(1);
-    main.widget->toEditTabName();
-    QTest::keyClicks(editorOf(main), QStringLiteral("Foyer"));
-    const QPoint pos = main.tabs()->tabBar()->rect().center();
-    QWheelEvent wheel(pos, main.tabs()->tabBar()->mapToGlobal(pos), QPoint(), QPoint(0, -120),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(main.tabs()->tabBar(), &wheel);
-    QCOMPARE(main.tabs()->currentIndex(), 2);
-    QTest::keyClick(editorOf(main), Qt::Key_Return);
-    QCOMPARE(main.tabTexts(), (QStringList{Names[0], QStringLiteral("Foyer"), Names[2]}));
-    QCOMPARE(main.tabs()->currentIndex(), 1);
-    main.widget->undoGroup()->undo();
-    QCOMPARE(main.tabTexts(), Names);
-}
-
-void tst_ChannelCommands::renameOfADeletedChannel()
-{
-    MainWidgetFixture main;
-    main.createTabs(Names);
-    main.widget->show();
-    main.tabs()->setCurrentIndex(1);
-    main.widget->toEditTabName();
-    QTest::keyClicks(editorOf(main), QStringLiteral("Foyer"));
-    QSignalSpy request(main.tabs(), SIGNAL(requestChangeTabName(int,QString)));
-    const std::unique_ptr<ZvScheduleWorkingArea> page(main.area(1));
-    main.tabs()->removeTab(1);
-    QTest::keyClick(editorOf(main), Qt::Key_Return);
-    QCOMPARE(request.count(), 0);
-    QCOMPARE(main.tabTexts(), (QStringList{Names[0], Names[2]}));
 }
 
 QTEST_MAIN(tst_ChannelCommands)

@@ -63,6 +63,10 @@ private Q_SLOTS:
     void menuRenames();
     void noMenuBesideTheCurrentTab();
     void menuWithoutEditMenu();
+    void endsBeforeTheNextCommand_data();
+    void endsBeforeTheNextCommand();
+    void goesToItsTab();
+    void ofADeletedChannel();
 };
 
 void tst_ChannelRename::typedIntoTheTab()
@@ -317,6 +321,75 @@ void tst_ChannelRename::menuWithoutEditMenu()
     QVERIFY(openMenu(main, main.tabs()->currentTabRect().center(),
                      [&entries](QMenu *menu) { entries = menu->actions().size(); }));
     QCOMPARE(entries, 1);
+}
+
+void tst_ChannelRename::endsBeforeTheNextCommand_data()
+{
+    QTest::addColumn<bool>("adds");
+    QTest::newRow("add") << true;
+    QTest::newRow("delete") << false;
+}
+
+void tst_ChannelRename::endsBeforeTheNextCommand()
+{
+    QFETCH(bool, adds);
+    MainWidgetFixture main;
+    main.createTabs(Names);
+    main.widget->show();
+    main.tabs()->setCurrentIndex(1);
+    main.widget->toEditTabName();
+    QTest::keyClicks(editorOf(main), QStringLiteral("Foyer"));
+    if (adds) {
+        main.widget->addNewChannel();
+        QCOMPARE(main.tabTexts(), (QStringList{Names[0], QStringLiteral("Foyer"), Names[2],
+                                               QStringLiteral("Ch.3")}));
+        QCOMPARE(main.tabs()->currentIndex(), 3);
+    } else {
+        MessageBoxAnswer answer;
+        answer.expect(QMessageBox::Yes).whileShown([](QMessageBox *box) {
+            QVERIFY(
+                box->text().startsWith(QStringLiteral("The channel \"Foyer\" will be deleted.")));
+        });
+        main.widget->removeCurrentChannel();
+        QCOMPARE(main.tabTexts(), (QStringList{Names[0], Names[2]}));
+    }
+    QVERIFY(!editorOf(main));
+}
+
+void tst_ChannelRename::goesToItsTab()
+{
+    MainWidgetFixture main;
+    main.createTabs(Names);
+    main.widget->show();
+    main.tabs()->setCurrentIndex(1);
+    main.widget->toEditTabName();
+    QTest::keyClicks(editorOf(main), QStringLiteral("Foyer"));
+    const QPoint pos = main.tabs()->tabBar()->rect().center();
+    QWheelEvent wheel(pos, main.tabs()->tabBar()->mapToGlobal(pos), QPoint(), QPoint(0, -120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(main.tabs()->tabBar(), &wheel);
+    QCOMPARE(main.tabs()->currentIndex(), 2);
+    QTest::keyClick(editorOf(main), Qt::Key_Return);
+    QCOMPARE(main.tabTexts(), (QStringList{Names[0], QStringLiteral("Foyer"), Names[2]}));
+    QCOMPARE(main.tabs()->currentIndex(), 1);
+    main.widget->undoGroup()->undo();
+    QCOMPARE(main.tabTexts(), Names);
+}
+
+void tst_ChannelRename::ofADeletedChannel()
+{
+    MainWidgetFixture main;
+    main.createTabs(Names);
+    main.widget->show();
+    main.tabs()->setCurrentIndex(1);
+    main.widget->toEditTabName();
+    QTest::keyClicks(editorOf(main), QStringLiteral("Foyer"));
+    QSignalSpy request(main.tabs(), SIGNAL(requestChangeTabName(int,QString)));
+    const std::unique_ptr<ZvScheduleWorkingArea> page(main.area(1));
+    main.tabs()->removeTab(1);
+    QTest::keyClick(editorOf(main), Qt::Key_Return);
+    QCOMPARE(request.count(), 0);
+    QCOMPARE(main.tabTexts(), (QStringList{Names[0], Names[2]}));
 }
 
 QTEST_MAIN(tst_ChannelRename)

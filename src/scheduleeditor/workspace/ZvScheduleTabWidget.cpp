@@ -59,7 +59,7 @@ bool ZvScheduleTabWidget::eventFilter(QObject *watched, QEvent *event)
         }
         break;
     case QEvent::MouseButtonRelease:
-        releaseTabBar();
+        releaseTabBar(*static_cast<const QMouseEvent *>(event));
         break;
     default:
         break;
@@ -67,8 +67,11 @@ bool ZvScheduleTabWidget::eventFilter(QObject *watched, QEvent *event)
     return QTabWidget::eventFilter(watched, event);
 }
 
+// Only the left button drags; another one that is clicked meanwhile must not end the watch over it.
 void ZvScheduleTabWidget::pressTabBar(const QMouseEvent &event)
 {
+    if (event.button() != Qt::LeftButton)
+        return;
     m_firstTabRect = tabBar()->tabRect(0);
     m_pressedIndex = tabBar()->tabAt(event.pos());
     m_dragOffset = tabBar()->tabRect(m_pressedIndex).left() - event.x();
@@ -83,8 +86,10 @@ bool ZvScheduleTabWidget::mayDragTo(const QMouseEvent &event) const
 }
 
 // The bar has moved the current tab along with the drag.
-void ZvScheduleTabWidget::releaseTabBar()
+void ZvScheduleTabWidget::releaseTabBar(const QMouseEvent &event)
 {
+    if (event.button() != Qt::LeftButton)
+        return;
     onTabMoved(m_pressedIndex, currentIndex());
     m_pressedIndex = 0;
     m_pressed = false;

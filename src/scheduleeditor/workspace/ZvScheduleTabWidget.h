@@ -64,7 +64,7 @@ private Q_SLOTS:
 private:
     void pressTabBar(const QMouseEvent &event);
     bool mayDragTo(const QMouseEvent &event) const;
-    void releaseTabBar();
+    void releaseTabBar(const QMouseEvent &event);
 
     bool m_movingTabs = false;
     int m_pressedIndex = 0;
