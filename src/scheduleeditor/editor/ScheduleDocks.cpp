@@ -14,7 +14,7 @@ namespace Zavo {
 
 namespace {
 
-constexpr char Context[] = "Zavo::ZvScheduleEditor";
+constexpr char DockContext[] = "Zavo::ZvScheduleEditor";
 
 constexpr double HeightShare = 0.7;      // of the window
 constexpr int LeftWidth = 330;           // times the ratio
@@ -48,7 +48,7 @@ constexpr Frame Frames[] = {
 
 QString titleOf(const Frame &frame)
 {
-    return frame.translated ? QCoreApplication::translate(Context, frame.title)
+    return frame.translated ? QCoreApplication::translate(DockContext, frame.title)
                             : QLatin1String(frame.title);
 }
 

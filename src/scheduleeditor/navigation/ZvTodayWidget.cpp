@@ -12,7 +12,7 @@ namespace Zavo {
 
 namespace {
 
-constexpr int SpacerPx = 9;
+constexpr int TodaySpacerPx = 9;
 
 const QLatin1String TodayStyle(
     "QFrame:hover{background-color: rgb(240, 240, 250);border-width: 1px;border-style: solid;"
@@ -43,8 +43,8 @@ ZvTodayWidget::ZvTodayWidget(QWidget *parent)
     layout->addWidget(m_titleLabel);
     layout->addWidget(m_dateLabel);
     layout->addWidget(m_dayLabel);
-    layout->addItem(
-        new QSpacerItem(SpacerPx, SpacerPx, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    layout->addItem(new QSpacerItem(TodaySpacerPx, TodaySpacerPx, QSizePolicy::Expanding,
+                                    QSizePolicy::Minimum));
     setToolTip(tr("Move to Today"));
 }
 
