@@ -52,6 +52,47 @@ QString titleOf(const Frame &frame)
                             : QLatin1String(frame.title);
 }
 
+// Docks that were just placed have no sizes yet, and no event gives them theirs as long as the
+// window is not shown.
+void layOut(const QWidget *window)
+{
+    if (window && window->layout())
+        window->layout()->activate();
+}
+
+// A dock below or above this one that is seen too, or null.
+QDockWidget *neighbourOf(QDockWidget *dock, const QMainWindow *window)
+{
+    const QList<QDockWidget *> tabs = window->tabifiedDockWidgets(dock);
+    const auto others = window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDockWidget *other : others) {
+        const bool shares = window->dockWidgetArea(other) == window->dockWidgetArea(dock) &&
+                            !other->isHidden() && !other->isFloating();
+        if (shares && other != dock && !tabs.contains(other) &&
+            window->rect().intersects(other->geometry()))
+            return other;
+    }
+    return nullptr;
+}
+
+// The limits of a dock shrink the dock itself, but not the place that the layout keeps for it.
+void shrinkPlace(QDockWidget *dock, QMainWindow *window, int width, int height)
+{
+    if (width > 0 && dock->width() != width) {
+        window->resizeDocks({dock}, {width}, Qt::Horizontal);
+        layOut(window);
+        // The window reckons with the tab bar beside the dock.
+        const int corrected = 2 * width - dock->width();
+        if (corrected > 0 && corrected != width)
+            window->resizeDocks({dock}, {corrected}, Qt::Horizontal);
+    }
+    QDockWidget *neighbour = height > 0 ? neighbourOf(dock, window) : nullptr;
+    const int rest = neighbour ? neighbour->height() + dock->height() - height : 0;
+    if (rest > 0)
+        window->resizeDocks({neighbour, dock}, {rest, height}, Qt::Vertical);
+    layOut(window);
+}
+
 } // namespace
 
 ScheduleDocks::ScheduleDocks(QMainWindow *window)
@@ -157,6 +198,7 @@ void ScheduleDocks::changeDockWidgetSize(QDockWidget *dock, int width, int heigh
 {
     if (!dock)
         return;
+    layOut(dock->parentWidget());
     const QSize minimum = dock->minimumSize();
     const QSize maximum = dock->maximumSize();
     if (width > 0 && dock->width() >= width)
@@ -171,12 +213,12 @@ void ScheduleDocks::changeDockWidgetSize(QDockWidget *dock, int width, int heigh
     QCoreApplication::processEvents();
     if (!alive)
         return;
-    // In a window that is not shown yet no event makes the layout take the size.
-    const auto *window = qobject_cast<QMainWindow *>(dock->parentWidget());
-    if (window && !window->isVisible())
-        window->layout()->activate();
     dock->setMinimumSize(minimum);
     dock->setMaximumSize(maximum);
+    layOut(dock->parentWidget());
+    auto *window = qobject_cast<QMainWindow *>(dock->parentWidget());
+    if (window && !dock->isFloating() && !dock->isHidden())
+        shrinkPlace(dock, window, width, height);
 }
 
 void ScheduleDocks::restore(const QString &name)
