@@ -103,17 +103,22 @@ void addMemory(Bench::Table *table, int count, OwnTimeTable *own, BareTimeTable 
         [=] { return memoryOfBand(bare, count); }, [=] { return memoryOfBand(own, count); }, pairs);
 }
 
-void measure(Bench::Table *table, int count)
+void measure(Bench::Table *table, int count, const QStringList &names)
 {
+    const auto isWanted = [&names](const char *name) {
+        return names.isEmpty() || names.contains(QString::fromLatin1(name));
+    };
     OwnTimeTable own(count);
     BareTimeTable bare(own.viewSize());
     bare.load(DenseDay::bands(count));
     bare.settle();
     const QVector<Operation> ownOperations = operationsOf(&own, count);
     const QVector<Operation> bareOperations = operationsOf(&bare, count);
-    for (const Figure &figure : figures)
-        addFigure(table, figure, count, ownOperations, bareOperations);
-    if (count >= leastCountOfMemory)
+    for (const Figure &figure : figures) {
+        if (isWanted(figure.operation))
+            addFigure(table, figure, count, ownOperations, bareOperations);
+    }
+    if (count >= leastCountOfMemory && isWanted("memory"))
         addMemory(table, count, &own, &bare);
 }
 
@@ -148,7 +153,8 @@ void doOnce(const QString &name, int count, bool plain)
 
 } // namespace
 
-/// Without arguments the table; with --check the exit status says whether the goals hold; with
+/// Without arguments the table, or the lines of the operations that are named; with --check the
+/// exit status says whether the goals hold; with
 /// --once OPERATION COUNT [--bare] one operation, ours or the plain one, for a profiler.
 int main(int argc, char *argv[])
 {
@@ -162,7 +168,9 @@ int main(int argc, char *argv[])
         return 0;
     }
     Bench::Table table(arguments);
+    QStringList operations = arguments.mid(1);
+    operations.removeAll(QStringLiteral("--check"));
     for (const int count : counts)
-        measure(&table, count);
+        measure(&table, count, operations);
     return table.finish();
 }
