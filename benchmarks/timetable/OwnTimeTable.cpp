@@ -5,6 +5,7 @@
 #include "ZvChannel.h"
 #include "timetable/TimeItemRects.h"
 #include "timetable/TimeTableLabelPool.h"
+#include "timetable/TimeTableText.h"
 #include "timetable/ZvScheduleWorkingArea.h"
 #include "timetable/ZvTimeTableScene.h"
 #include "timetable/ZvTimeTableTimeItem.h"
@@ -184,4 +185,5 @@ void OwnTimeTable::settle()
 void OwnTimeTable::forgetKeptLabels()
 {
     delete QCoreApplication::instance()->findChild<TimeTableLabelPool *>();
+    delete QCoreApplication::instance()->findChild<TimeTableTexts *>();
 }

@@ -69,7 +69,7 @@ void RulerLabels::makeLabel(int index)
 {
     if (m_textItems.at(index))
         return;
-    m_textItems[index] = new TimeTableTextItem;
+    m_textItems[index] = new TimeTableTextItem(m_labels.at(index).text());
     place(index);
     m_textItems.at(index)->setParentItem(m_carrier);
 }

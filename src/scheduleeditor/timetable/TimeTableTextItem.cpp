@@ -1,11 +1,12 @@
 #include "timetable/TimeTableTextItem.h"
 
 #include "timetable/TimeTableFont.h"
+#include "timetable/TimeTableText.h"
 
 #include <QPainter>
-#include <QTextDocument>
 
 #include <cmath>
+#include <utility>
 
 namespace Zavo {
 
@@ -13,8 +14,10 @@ namespace {
 constexpr double documentMargin = 4.0; // px, that of a text document
 } // namespace
 
-TimeTableTextItem::TimeTableTextItem(QGraphicsItem *parent)
+TimeTableTextItem::TimeTableTextItem(const QString &text, QGraphicsItem *parent)
     : QGraphicsTextItem(parent)
+    , m_label(text)
+    , m_pixelSize(TimeTableFont::pixelSize(1.0))
 {
     setFlag(ItemIgnoresTransformations);
     setFlag(ItemIsSelectable, false);
@@ -22,9 +25,7 @@ TimeTableTextItem::TimeTableTextItem(QGraphicsItem *parent)
     // the mouse.
     setAcceptHoverEvents(false);
     setAcceptDrops(false);
-    m_glyphs.setTextFormat(Qt::PlainText);
-    m_glyphs.setPerformanceHint(QStaticText::AggressiveCaching);
-    setDpiRatio(1.0);
+    layOut();
 }
 
 void TimeTableTextItem::setLabel(const QString &text)
@@ -32,8 +33,7 @@ void TimeTableTextItem::setLabel(const QString &text)
     if (text == m_label)
         return;
     m_label = text;
-    setPlainText(text);
-    m_glyphs.setText(text);
+    layOut();
 }
 
 void TimeTableTextItem::setDpiRatio(double dpiRatio)
@@ -42,8 +42,15 @@ void TimeTableTextItem::setDpiRatio(double dpiRatio)
     if (pixelSize == m_pixelSize)
         return;
     m_pixelSize = pixelSize;
-    m_font = TimeTableFont::font(pixelSize);
-    setFont(m_font);
+    layOut();
+}
+
+void TimeTableTextItem::layOut()
+{
+    // The item lets go of the old document before that can die.
+    const std::shared_ptr<TimeTableText> old =
+        std::exchange(m_text, TimeTableTexts::find(m_label, m_pixelSize));
+    setDocument(&m_text->document);
 }
 
 void TimeTableTextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
@@ -52,13 +59,13 @@ void TimeTableTextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem 
     // Kept glyphs stand on other subpixels than the document's where a pixel is no whole number of
     // device pixels, and all on one line.
     const double pixelRatio = painter->deviceTransform().m11();
-    if (pixelRatio != std::floor(pixelRatio) || document()->blockCount() > 1) {
+    if (pixelRatio != std::floor(pixelRatio) || m_text->document.blockCount() > 1) {
         QGraphicsTextItem::paint(painter, option, widget);
         return;
     }
-    painter->setFont(m_font);
+    painter->setFont(m_text->font);
     painter->setPen(Qt::black);
-    painter->drawStaticText(QPointF(documentMargin, documentMargin), m_glyphs);
+    painter->drawStaticText(QPointF(documentMargin, documentMargin), m_text->glyphs);
 }
 
 } // namespace Zavo

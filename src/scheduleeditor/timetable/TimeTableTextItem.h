@@ -1,22 +1,26 @@
 #pragma once
 
 #include <QGraphicsTextItem>
-#include <QStaticText>
+
+#include <memory>
 
 namespace Zavo {
 
+struct TimeTableText;
+
 /// A plain text of the time table that is not scaled with the view.
 ///
-/// Making such an item costs more than all else about a band, and setting its text comes next. So
-/// setLabel() with the text that is there already costs nothing, and finished items can be kept for
-/// the next text (see TimeTableLabelPool). Painting through the document would lay out again each
-/// time; the glyphs are kept instead, on the same pixels.
+/// Making such an item costs more than all else about a band, and laying out its text comes next.
+/// So labels of the same text share it (see TimeTableTexts), setLabel() with the text that is there
+/// already costs nothing, and finished items can be kept for the next text (see
+/// TimeTableLabelPool). Painting through the document would lay out again each time; the glyphs are
+/// kept instead, on the same pixels.
 class TimeTableTextItem : public QGraphicsTextItem
 {
     Q_OBJECT
 
 public:
-    explicit TimeTableTextItem(QGraphicsItem *parent = nullptr);
+    explicit TimeTableTextItem(const QString &text, QGraphicsItem *parent = nullptr);
 
     QString label() const { return m_label; }
     void setLabel(const QString &text);
@@ -26,10 +30,11 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 private:
+    void layOut();
+
     QString m_label;
-    int m_pixelSize = 0;
-    QFont m_font;
-    QStaticText m_glyphs;
+    int m_pixelSize;
+    std::shared_ptr<TimeTableText> m_text;
 };
 
 } // namespace Zavo

@@ -7,7 +7,12 @@
 namespace Zavo {
 
 ZvTimeTableTimeItemLabel::ZvTimeTableTimeItemLabel(QGraphicsItem *parent)
-    : TimeTableTextItem(parent)
+    : ZvTimeTableTimeItemLabel(QString(), parent)
+{
+}
+
+ZvTimeTableTimeItemLabel::ZvTimeTableTimeItemLabel(const QString &text, QGraphicsItem *parent)
+    : TimeTableTextItem(text, parent)
 {
 }
 

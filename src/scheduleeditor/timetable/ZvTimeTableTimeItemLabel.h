@@ -13,6 +13,7 @@ class ZvTimeTableTimeItemLabel final : public TimeTableTextItem
 
 public:
     explicit ZvTimeTableTimeItemLabel(QGraphicsItem *parent = nullptr);
+    explicit ZvTimeTableTimeItemLabel(const QString &text, QGraphicsItem *parent = nullptr);
 
     void setBackgroundColor(const QColor &color);
 
