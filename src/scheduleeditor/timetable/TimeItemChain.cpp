@@ -1,7 +1,10 @@
 #include "timetable/TimeItemChain.h"
 
+#include "timetable/TimeTableLabelPool.h"
 #include "timetable/ZvTimeTableTimeItem.h"
+#include "timetable/ZvTimeTableTimeItemLabel.h"
 
+#include <QMultiHash>
 #include <QSet>
 
 #include <algorithm>
@@ -34,6 +37,34 @@ void link(ZvTimeTableTimeItem *previous, ZvTimeTableTimeItem *next)
         previous->setNextItem(next);
     if (next)
         next->setPreviousItem(previous);
+}
+
+/// Hands the index labels of @p items round, so that few need another text: that costs much more
+/// than another band. Labels that are kept from earlier bands join in.
+void exchangeLabels(const QList<ZvTimeTableTimeItem *> &items)
+{
+    QMultiHash<QString, ZvTimeTableTimeItemLabel *> loose;
+    for (const ZvTimeTableTimeItem *item : items)
+        loose.insert(item->indexLabel()->label(), item->indexLabel());
+
+    QList<ZvTimeTableTimeItem *> unlabelled;
+    for (ZvTimeTableTimeItem *item : items) {
+        const QString text = item->indexText();
+        ZvTimeTableTimeItemLabel *label = loose.take(text);
+        if (!label)
+            label = TimeTableLabelPool::takeEqual(text);
+        if (label)
+            item->setIndexLabel(label);
+        else
+            unlabelled.append(item);
+    }
+    auto spare = loose.cbegin();
+    for (ZvTimeTableTimeItem *item : qAsConst(unlabelled)) {
+        ZvTimeTableTimeItemLabel *label = *spare++;
+        label->setLabel(item->indexText());
+        item->setIndexLabel(label);
+    }
+    std::for_each(spare, loose.cend(), TimeTableLabelPool::give);
 }
 
 } // namespace
@@ -86,7 +117,7 @@ void TimeItemChain::insert(int index, ZvTimeTableTimeItem *item)
     item->setNextItem(nullptr);
     link(previous, item);
     link(item, next);
-    item->setIndex(index);
+    item->setIndexOnly(index);
     m_ascending = m_ascending && (!previous || !startsEarlier(item, previous)) &&
                   (!next || !startsEarlier(next, item));
 }
@@ -144,8 +175,14 @@ ZvTimeTableTimeItem *TimeItemChain::takeLast()
 
 void TimeItemChain::renumber()
 {
-    for (int i = 0; i < m_items.size(); ++i)
-        m_items.at(i)->setIndex(i);
+    QList<ZvTimeTableTimeItem *> mislabelled;
+    for (int i = 0; i < m_items.size(); ++i) {
+        ZvTimeTableTimeItem *item = m_items.at(i);
+        item->setIndexOnly(i);
+        if (item->indexLabel()->label() != item->indexText())
+            mislabelled.append(item);
+    }
+    exchangeLabels(mislabelled);
 }
 
 } // namespace Zavo

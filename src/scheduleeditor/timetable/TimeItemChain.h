@@ -30,8 +30,8 @@ public:
     /// Looks whether the starts ascend; to be called before a series of searches.
     void checkOrder();
 
-    /// Links @p item in at @p index and numbers it; the items behind keep their numbers until
-    /// renumber().
+    /// Links @p item in at @p index and numbers it; the items behind keep their numbers, and all
+    /// the texts of theirs, until renumber().
     void insert(int index, ZvTimeTableTimeItem *item);
 
     /// Takes out one item for each record that equals it, both searched from the end, and links
@@ -39,7 +39,7 @@ public:
     QList<ZvTimeTableTimeItem *> take(const QList<ZvTime> &times);
     ZvTimeTableTimeItem *takeLast();
 
-    /// Gives every item whose number is off the right one.
+    /// Gives every item whose number is off the right one, and every index label its text.
     void renumber();
 
 private:

@@ -9,7 +9,8 @@
 namespace Zavo {
 
 namespace {
-constexpr int keptLabels = 8640; // both labels of the densest table that is edited in practice
+constexpr std::size_t keptLabels =
+    8640; // both labels of the densest table that is edited in practice
 } // namespace
 
 TimeTableLabelPool::TimeTableLabelPool(QObject *parent)
@@ -19,7 +20,8 @@ TimeTableLabelPool::TimeTableLabelPool(QObject *parent)
 
 TimeTableLabelPool::~TimeTableLabelPool()
 {
-    qDeleteAll(m_labels);
+    for (const auto &label : m_labels)
+        delete label.second;
 }
 
 TimeTableLabelPool *TimeTableLabelPool::instance()
@@ -32,22 +34,32 @@ TimeTableLabelPool *TimeTableLabelPool::instance()
 
 ZvTimeTableTimeItemLabel *TimeTableLabelPool::take(const QString &text)
 {
-    TimeTableLabelPool *pool = instance();
-    ZvTimeTableTimeItemLabel *label = pool ? pool->takeKept(text) : nullptr;
-    if (!label)
-        label = new ZvTimeTableTimeItemLabel;
+    ZvTimeTableTimeItemLabel *label = takeAny(text);
     label->setLabel(text);
     return label;
 }
 
-ZvTimeTableTimeItemLabel *TimeTableLabelPool::takeKept(const QString &text)
+ZvTimeTableTimeItemLabel *TimeTableLabelPool::takeAny(const QString &text)
+{
+    TimeTableLabelPool *pool = instance();
+    ZvTimeTableTimeItemLabel *label = pool ? pool->takeKept(text, true) : nullptr;
+    return label ? label : new ZvTimeTableTimeItemLabel(text);
+}
+
+ZvTimeTableTimeItemLabel *TimeTableLabelPool::takeEqual(const QString &text)
+{
+    TimeTableLabelPool *pool = instance();
+    return pool ? pool->takeKept(text, false) : nullptr;
+}
+
+ZvTimeTableTimeItemLabel *TimeTableLabelPool::takeKept(const QString &text, bool orAny)
 {
     auto found = m_labels.find(text);
-    if (found == m_labels.end())
+    if (found == m_labels.end() && orAny)
         found = m_labels.begin();
     if (found == m_labels.end())
         return nullptr;
-    ZvTimeTableTimeItemLabel *label = *found;
+    ZvTimeTableTimeItemLabel *label = found->second;
     m_labels.erase(found);
     return label;
 }
@@ -63,10 +75,13 @@ void TimeTableLabelPool::give(ZvTimeTableTimeItemLabel *label)
 
 void TimeTableLabelPool::keep(ZvTimeTableTimeItemLabel *label)
 {
-    label->setParentItem(nullptr);
+    // The scene takes an item from its parent too; the other way round it would first have to find
+    // a place at the top level for it.
     if (label->scene())
         label->scene()->removeItem(label);
-    m_labels.insert(label->label(), label);
+    else
+        label->setParentItem(nullptr);
+    m_labels.emplace(label->label(), label);
 }
 
 } // namespace Zavo

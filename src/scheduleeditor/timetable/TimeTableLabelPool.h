@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QMultiHash>
 #include <QObject>
 #include <QString>
+
+#include <unordered_map>
 
 namespace Zavo {
 
@@ -22,6 +23,10 @@ public:
 
     /// A label with @p text, without a parent; the caller takes it over.
     static ZvTimeTableTimeItemLabel *take(const QString &text);
+    /// The same, but a label that is kept with another text comes with that.
+    static ZvTimeTableTimeItemLabel *takeAny(const QString &text);
+    /// A label that is kept with @p text, or null.
+    static ZvTimeTableTimeItemLabel *takeEqual(const QString &text);
     /// Takes @p label over, out of its parent and its scene. Without an application, or when enough
     /// labels are kept, it is deleted.
     static void give(ZvTimeTableTimeItemLabel *label);
@@ -30,10 +35,11 @@ private:
     explicit TimeTableLabelPool(QObject *parent);
 
     static TimeTableLabelPool *instance();
-    ZvTimeTableTimeItemLabel *takeKept(const QString &text);
+    ZvTimeTableTimeItemLabel *takeKept(const QString &text, bool orAny);
     void keep(ZvTimeTableTimeItemLabel *label);
 
-    QMultiHash<QString, ZvTimeTableTimeItemLabel *> m_labels;
+    /// Of the standard library: any one of its elements is found at once, however many went.
+    std::unordered_multimap<QString, ZvTimeTableTimeItemLabel *> m_labels;
 };
 
 } // namespace Zavo

@@ -1,14 +1,14 @@
 #include "timetable/ZvTimeTableTimeItem.h"
 
 #include "timetable/CosmeticOutline.h"
-#include "timetable/SelectionMarkItem.h"
 #include "timetable/TimeTableLabelPool.h"
 #include "timetable/ZvTimeTableTimeItemLabel.h"
-#include "timetable/ZvTimeTableTimeItemResizeHandle.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
+
+#include <vector>
 
 namespace Zavo {
 
@@ -17,9 +17,19 @@ namespace {
 constexpr double selectedStackingOffset = 10000.0;
 constexpr double handleShare = 0.5; // of the band's height
 
-QString indexText(int index)
+#if defined(__SANITIZE_ADDRESS__)
+constexpr std::size_t keptBlocks = 0; // memory that is used again hides the use of a dead band
+#else
+constexpr std::size_t keptBlocks = 4320; // bands of the densest table that is edited in practice
+#endif
+
+const QColor stageBackground(255, 255, 255, 128);
+
+/// Memory of bands that went, the last one first. Lives as long as the program: so may scenes.
+std::vector<void *> &freeBlocks()
 {
-    return QStringLiteral("#%1").arg(index);
+    static auto *const blocks = new std::vector<void *>;
+    return *blocks;
 }
 
 } // namespace
@@ -27,21 +37,27 @@ QString indexText(int index)
 ZvTimeTableTimeItem::ZvTimeTableTimeItem(QGraphicsItem *parent)
     : ZvTimeTableTimeItem(QString(), 0, parent)
 {
+    m_indexLabel->setLabel(indexText());
 }
 
 ZvTimeTableTimeItem::ZvTimeTableTimeItem(const QString &stageName, int index, QGraphicsItem *parent)
     : QGraphicsObject(parent)
     , m_index(index)
+    , m_stageLabel(adoptLabel(TimeTableLabelPool::take(stageName), stageBackground))
+    , m_selectionRect(boundingRect(), m_markColor, this)
+    , m_innerSelectionRect(boundingRect().adjusted(1.0, 1.0, -2.0, -2.0), m_markColor,
+                           &m_selectionRect)
+    , m_topHandle(ZvTimeTableTimeItemResizeHandle::TopHandle, this)
+    , m_bottomHandle(ZvTimeTableTimeItemResizeHandle::BottomHandle, this)
+    , m_indexLabel(adoptLabel(TimeTableLabelPool::takeAny(indexText()), Qt::transparent))
 {
     setFlag(ItemIsSelectable);
     setFlag(ItemIsMovable, false);
     setFlag(ItemSendsScenePositionChanges);
     setFlag(ItemSendsGeometryChanges);
-
-    m_stageLabel = createLabel(stageName, QColor(255, 255, 255, 128));
-    createMark();
-    createHandles();
-    m_indexLabel = createLabel(indexText(index), Qt::transparent);
+    m_selectionRect.setVisible(false);
+    layoutHandles();
+    setResizeHandleVisible(false);
     applyStackingOrder();
 }
 
@@ -57,32 +73,32 @@ ZvTimeTableTimeItem::~ZvTimeTableTimeItem()
     }
 }
 
-ZvTimeTableTimeItemLabel *ZvTimeTableTimeItem::createLabel(const QString &text,
-                                                           const QColor &background)
+void *ZvTimeTableTimeItem::operator new(std::size_t size)
 {
-    ZvTimeTableTimeItemLabel *label = TimeTableLabelPool::take(text);
+    std::vector<void *> &blocks = freeBlocks();
+    if (blocks.empty())
+        return ::operator new(size);
+    void *memory = blocks.back();
+    blocks.pop_back();
+    return memory;
+}
+
+void ZvTimeTableTimeItem::operator delete(void *memory, std::size_t)
+{
+    std::vector<void *> &blocks = freeBlocks();
+    if (memory && blocks.size() < keptBlocks)
+        blocks.push_back(memory);
+    else
+        ::operator delete(memory);
+}
+
+ZvTimeTableTimeItemLabel *ZvTimeTableTimeItem::adoptLabel(ZvTimeTableTimeItemLabel *label,
+                                                          const QColor &background)
+{
     label->setBackgroundColor(background);
     label->setPos(0.0, 0.0);
     label->setParentItem(this);
     return label;
-}
-
-void ZvTimeTableTimeItem::createMark()
-{
-    m_selectionRect = new SelectionMarkItem(boundingRect(), m_markColor, this);
-    m_selectionRect->setVisible(isSelected());
-    m_innerSelectionRect = new SelectionMarkItem(boundingRect().adjusted(1.0, 1.0, -2.0, -2.0),
-                                                 m_markColor, m_selectionRect);
-}
-
-void ZvTimeTableTimeItem::createHandles()
-{
-    m_topHandle =
-        new ZvTimeTableTimeItemResizeHandle(ZvTimeTableTimeItemResizeHandle::TopHandle, this);
-    m_bottomHandle =
-        new ZvTimeTableTimeItemResizeHandle(ZvTimeTableTimeItemResizeHandle::BottomHandle, this);
-    layoutHandles();
-    setResizeHandleVisible(false);
 }
 
 QRectF ZvTimeTableTimeItem::boundingRect() const
@@ -202,11 +218,26 @@ void ZvTimeTableTimeItem::renumber()
 
 void ZvTimeTableTimeItem::setIndex(int index)
 {
+    setIndexOnly(index);
+    m_indexLabel->setLabel(indexText());
+}
+
+void ZvTimeTableTimeItem::setIndexOnly(int index)
+{
     if (index == m_index)
         return;
     m_index = index;
-    m_indexLabel->setLabel(indexText(index));
     applyStackingOrder();
+}
+
+QString ZvTimeTableTimeItem::indexText() const
+{
+    return QStringLiteral("#%1").arg(m_index);
+}
+
+void ZvTimeTableTimeItem::setIndexLabel(ZvTimeTableTimeItemLabel *label)
+{
+    m_indexLabel = adoptLabel(label, Qt::transparent);
 }
 
 void ZvTimeTableTimeItem::applyStackingOrder()
@@ -216,7 +247,7 @@ void ZvTimeTableTimeItem::applyStackingOrder()
 
 void ZvTimeTableTimeItem::onSelectionChanged(bool selected)
 {
-    m_selectionRect->setVisible(selected);
+    m_selectionRect.setVisible(selected);
     applyStackingOrder();
     if (!selected)
         setResizeHandleVisible(false);
@@ -224,8 +255,8 @@ void ZvTimeTableTimeItem::onSelectionChanged(bool selected)
 
 void ZvTimeTableTimeItem::setResizeHandleVisible(bool visible)
 {
-    m_topHandle->setVisible(visible);
-    m_bottomHandle->setVisible(visible);
+    m_topHandle.setVisible(visible);
+    m_bottomHandle.setVisible(visible);
 }
 
 QPointF ZvTimeTableTimeItem::limitedPosition(const QPointF &position) const
@@ -277,24 +308,24 @@ void ZvTimeTableTimeItem::layoutChildren()
                          (screenHeight - labelSize.height()) * 0.5 / m_verticalScale);
 
     const QRectF mark(0.0, 0.0, screenWidth, screenHeight);
-    m_selectionRect->setRect(mark);
-    m_innerSelectionRect->setRect(mark.adjusted(1.0, 1.0, -1.0, -1.0));
+    m_selectionRect.setRect(mark);
+    m_innerSelectionRect.setRect(mark.adjusted(1.0, 1.0, -1.0, -1.0));
 
-    m_topHandle->setHandleWidth(screenWidth);
-    m_bottomHandle->setY((screenHeight - m_bottomHandle->handleHeight()) / m_verticalScale);
-    m_bottomHandle->setHandleWidth(screenWidth);
+    m_topHandle.setHandleWidth(screenWidth);
+    m_bottomHandle.setY((screenHeight - m_bottomHandle.handleHeight()) / m_verticalScale);
+    m_bottomHandle.setHandleWidth(screenWidth);
 }
 
 void ZvTimeTableTimeItem::layoutHandles()
 {
-    const double height = qMin(m_itemHeight * handleShare, m_topHandle->maximumHeight());
-    for (ZvTimeTableTimeItemResizeHandle *handle : {m_topHandle, m_bottomHandle}) {
+    const double height = qMin(m_itemHeight * handleShare, m_topHandle.maximumHeight());
+    for (ZvTimeTableTimeItemResizeHandle *handle : {&m_topHandle, &m_bottomHandle}) {
         handle->setHandleWidth(m_itemWidth);
         handle->setHandleHeight(height);
     }
-    m_topHandle->setPos(0.0, 0.0);
-    m_bottomHandle->setPos(0.0, (m_itemHeight * m_verticalScale - m_bottomHandle->handleHeight()) /
-                                    m_verticalScale);
+    m_topHandle.setPos(0.0, 0.0);
+    m_bottomHandle.setPos(0.0, (m_itemHeight * m_verticalScale - m_bottomHandle.handleHeight()) /
+                                   m_verticalScale);
 }
 
 void ZvTimeTableTimeItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

@@ -1,17 +1,16 @@
 #pragma once
 
 #include "ZvTime.h"
+#include "timetable/SelectionMarkItem.h"
 #include "timetable/TimeAxis.h"
+#include "timetable/ZvTimeTableTimeItemResizeHandle.h"
 
 #include <QColor>
 #include <QGraphicsObject>
 
-class QGraphicsRectItem;
-
 namespace Zavo {
 
 class ZvTimeTableTimeItemLabel;
-class ZvTimeTableTimeItemResizeHandle;
 
 /// One assigned band on the strip. Its y and height are the start and length of its record and are
 /// the master while it is dragged: at every step it turns them back into times, truncated.
@@ -26,10 +25,17 @@ public:
     enum { Type = UserType + 3 };
 
     explicit ZvTimeTableTimeItem(QGraphicsItem *parent = nullptr);
-    /// With its texts from the start, which spares the labels a change.
+    /// With the stage's name from the start, which spares the label a change. The index label may
+    /// still bear another text: the chain hands those labels round when it numbers its bands.
     ZvTimeTableTimeItem(const QString &stageName, int index, QGraphicsItem *parent = nullptr);
     /// Takes itself out of the chain; the items behind it are renumbered.
     ~ZvTimeTableTimeItem() override;
+
+    /// The bands of a table take the memory of those that were there before them, in their order.
+    /// The scene keeps its items sorted by their address, so bands that lie as they are ordered
+    /// leave it from the end of its list.
+    static void *operator new(std::size_t size);
+    static void operator delete(void *memory, std::size_t size);
 
     int type() const override { return Type; }
     QRectF boundingRect() const override;
@@ -47,8 +53,10 @@ public:
 
     ZvTimeTableTimeItem *previousItem() const { return m_previousItem; }
     ZvTimeTableTimeItem *nextItem() const { return m_nextItem; }
-    ZvTimeTableTimeItemResizeHandle *topHandle() const { return m_topHandle; }
-    ZvTimeTableTimeItemResizeHandle *bottomHandle() const { return m_bottomHandle; }
+    ZvTimeTableTimeItemResizeHandle *topHandle() { return &m_topHandle; }
+    const ZvTimeTableTimeItemResizeHandle *topHandle() const { return &m_topHandle; }
+    ZvTimeTableTimeItemResizeHandle *bottomHandle() { return &m_bottomHandle; }
+    const ZvTimeTableTimeItemResizeHandle *bottomHandle() const { return &m_bottomHandle; }
 
     /// Bottom of the previous band, or the top limit.
     double upperBound() const;
@@ -82,6 +90,13 @@ public:
     void renumber();
     /// Gives this item alone its index: text of the index label and stacking order.
     void setIndex(int index);
+    /// The same without the label, which setIndexLabel() has to bring in line.
+    void setIndexOnly(int index);
+    /// What the index label is to read.
+    QString indexText() const;
+    ZvTimeTableTimeItemLabel *indexLabel() const { return m_indexLabel; }
+    /// Takes @p label over in the place of the present one, which is the caller's from then on.
+    void setIndexLabel(ZvTimeTableTimeItemLabel *label);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
@@ -99,9 +114,7 @@ protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
 
 private:
-    ZvTimeTableTimeItemLabel *createLabel(const QString &text, const QColor &background);
-    void createMark();
-    void createHandles();
+    ZvTimeTableTimeItemLabel *adoptLabel(ZvTimeTableTimeItemLabel *label, const QColor &background);
     QPointF limitedPosition(const QPointF &position) const;
     void layoutChildren();
     void layoutHandles();
@@ -110,10 +123,6 @@ private:
 
     ZvTimeTableTimeItem *m_previousItem = nullptr;
     ZvTimeTableTimeItem *m_nextItem = nullptr;
-    ZvTimeTableTimeItemLabel *m_stageLabel = nullptr;
-    QGraphicsRectItem *m_selectionRect = nullptr;
-    QGraphicsRectItem *m_innerSelectionRect = nullptr;
-    ZvTimeTableTimeItemLabel *m_indexLabel = nullptr;
     double m_left = 10.0;
     double m_topMargin = TimeAxis::topMargin;
     double m_itemWidth = 240.0;
@@ -128,8 +137,15 @@ private:
     bool m_positionLimited = true;
     QColor m_markColor = Qt::blue;
     bool m_timeUpdateBlocked = false;
-    ZvTimeTableTimeItemResizeHandle *m_topHandle = nullptr;
-    ZvTimeTableTimeItemResizeHandle *m_bottomHandle = nullptr;
+    // The children, in the order in which they are stacked. What every band has of its own is part
+    // of it: thousands of bands come and go at once, and the scene takes out items that are close
+    // together in memory at less cost.
+    ZvTimeTableTimeItemLabel *m_stageLabel;
+    SelectionMarkItem m_selectionRect;
+    SelectionMarkItem m_innerSelectionRect;
+    ZvTimeTableTimeItemResizeHandle m_topHandle;
+    ZvTimeTableTimeItemResizeHandle m_bottomHandle;
+    ZvTimeTableTimeItemLabel *m_indexLabel;
 };
 
 } // namespace Zavo

@@ -167,6 +167,8 @@ bool ZvTimeTableTimeZoneItem::insertTimeItems(QList<ZvTime> times)
         if (insertTimeItem(time, verticalScale))
             continue;
         allPlaced = false;
+        // The message shows the table behind it.
+        m_timeItems.renumber();
         Q_EMIT criticalErrorOccured(tr("Failed to assign \"%1\".").arg(time.stageName()));
     }
     m_timeItems.renumber();
