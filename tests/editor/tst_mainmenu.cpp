@@ -84,11 +84,17 @@ void tst_MainMenu::rows_data()
         false);
     row("Action_Upload", "&Upload...", QKeySequence(), true);
     row("Action_Output_Channel_Data", "&Output Channel Data...", QKeySequence(), true);
+    row("Action_Show_Log_File", "S&how Upload Log...", QKeySequence(), false);
+    row("Action_OPen_Log_Folder", "Open Upload Log &Folder...", QKeySequence(), false);
     row("Action_Create_Schedule", "&New Schedule", QKeySequence(), true);
     row("Action_Delete_Schedule", "&Delete Schedule...", QKeySequence(), true);
     row("Action_Rename_Channel", "&Rename Channel", QKeySequence(), false);
     row("Action_Create_Channel", "&Add Channel...", QKeySequence(), true);
     row("Action_Delete_Channel", "D&elete Channel...", QKeySequence(), true);
+    row("Action_Change_Channel_Order", "Chan&ge Channel Order...", QKeySequence(), false);
+    row("Action_Delete_Channels_Settings", "Delete All Channels and &Settings...", QKeySequence(),
+        false);
+    row("Action_Show_Channel_Information", "Show Channel &Information...", QKeySequence(), false);
     row("Action_Channel_Configuration", "Channel Configura&tion...", QKeySequence(), false);
     row("Action_Set_Visible_Switch_Schedule", "&Switch Schedule", QKeySequence(), false);
     row("Action_Set_Visible_Schedule_List", "Schedule &List", QKeySequence(), false);
@@ -124,9 +130,12 @@ void tst_MainMenu::orderOfRows_data()
     QTest::newRow("edit")
         << 1 << list("&Undo,&Redo,,&Cut,&Copy,&Paste,&Delete,,Select &All,Deselect A&ll");
     QTest::newRow("channel") << 2
-                             << list("&Upload...,&Output Channel Data...,,&New Schedule,&Delete "
-                                     "Schedule...,,&Rename Channel,&Add Channel...,D&elete "
-                                     "Channel...,,Channel Configura&tion...");
+                             << list("&Upload...,&Output Channel Data...,,S&how Upload "
+                                     "Log...,Open Upload Log &Folder...,,&New Schedule,&Delete "
+                                     "Schedule...,,&Rename Channel,Chan&ge Channel Order...,&Add "
+                                     "Channel...,D&elete Channel...,,Delete All Channels and "
+                                     "&Settings...,,Show Channel &Information...,Channel "
+                                     "Configura&tion...");
     QTest::newRow("window") << 3
                             << list("&Switch Schedule,Schedule &List,&Choose Stage,&Assigned Item "
                                     "Property,,To &Default Position");
@@ -267,11 +276,13 @@ void tst_MainMenu::firstTab()
     EditorFixture host;
     QVERIFY(host.start());
     QVERIFY(!host.action("Action_Delete_Channel")->isEnabled());
+    QVERIFY(!host.action("Action_Change_Channel_Order")->isEnabled());
     QVERIFY(host.action("Action_Rename_Channel")->isEnabled());
     host.editor->onCurrentChannelChanged(nullptr);
     QVERIFY(!host.action("Action_Delete_Channel")->isEnabled());
     host.tabs()->setCurrentIndex(2);
     QVERIFY(host.action("Action_Delete_Channel")->isEnabled());
+    QVERIFY(host.action("Action_Change_Channel_Order")->isEnabled());
     QVERIFY(host.action("Action_Rename_Channel")->isEnabled());
 }
 

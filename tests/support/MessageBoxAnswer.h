@@ -23,7 +23,7 @@ public:
     ExpectedBox &icon(QMessageBox::Icon icon);
     /// Exactly these buttons.
     ExpectedBox &buttons(QMessageBox::StandardButtons buttons);
-    /// Called while the box is on the screen, before it is answered.
+    /// Called while the box is on the screen, before it is answered. It may delete the box.
     ExpectedBox &whileShown(std::function<void(QMessageBox *)> look);
 
 private:

@@ -20,12 +20,16 @@ inline constexpr char DeselectAll[] = "Action_Deselect_All";
 
 inline constexpr char Upload[] = "Action_Upload";
 inline constexpr char OutputChannelData[] = "Action_Output_Channel_Data";
+inline constexpr char ShowLogFile[] = "Action_Show_Log_File";
+inline constexpr char OpenLogFolder[] = "Action_OPen_Log_Folder";
 inline constexpr char CreateSchedule[] = "Action_Create_Schedule";
 inline constexpr char DeleteSchedule[] = "Action_Delete_Schedule";
 inline constexpr char RenameChannel[] = "Action_Rename_Channel";
 inline constexpr char ChangeChannelOrder[] = "Action_Change_Channel_Order";
 inline constexpr char CreateChannel[] = "Action_Create_Channel";
 inline constexpr char DeleteChannel[] = "Action_Delete_Channel";
+inline constexpr char DeleteChannelsSettings[] = "Action_Delete_Channels_Settings";
+inline constexpr char ShowChannelInformation[] = "Action_Show_Channel_Information";
 inline constexpr char ChannelConfiguration[] = "Action_Channel_Configuration";
 
 inline constexpr char SetVisibleSwitchSchedule[] = "Action_Set_Visible_Switch_Schedule";

@@ -3,6 +3,7 @@
 #include "ZvScheduleEditorExport.h"
 #include "domain/ZvScheduleCommonInterface.h"
 
+#include <QDir>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -88,6 +89,13 @@ public:
     ZvScheduleCommonInterface::SelectedType hasSelectedItems() const;
     bool isPastingPossible() const;
 
+    /// The folder of the upload log, made if it did not exist and could be made.
+    static QDir getUploadLogDir();
+
+    /// Asks, then deletes every file of the channel folder and closes the editor without asking
+    /// about modified channels.
+    void removeAllChannelsAndSettings();
+
     /// Fits the title buttons of the docks to their screen. No event is consumed.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -104,6 +112,10 @@ public Q_SLOTS:
     void showChannelConfiguration();
     void showChannelExporter();
     void showUploadManager();
+
+    /// Open the folder of the upload log, and the log, on the desktop. Failures are told.
+    void openUploadLogDir();
+    void showUploadLogFile();
 
     void setActivatedWidget(QWidget *activatedWidget);
 
@@ -122,11 +134,16 @@ public Q_SLOTS:
     void action_deselectAll();
     void action_upload();
     void action_output_channel_data();
+    void action_show_log_file();
+    void action_open_log_folder();
     void action_create_schedule();
     void action_delete_schedule();
     void action_rename_channel();
+    void action_change_channel_order();
     void action_create_channel();
     void action_delete_channel();
+    void action_delete_channels_settings();
+    void action_show_channel_information();
     void action_channel_configuration();
 
     /// Brings all docks back to their default places and sizes. What is stored stays.

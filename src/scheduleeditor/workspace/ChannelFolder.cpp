@@ -72,6 +72,19 @@ QStringList ChannelFolder::channelFileNames() const
     return QDir(m_path).entryList(filters, QDir::Files, QDir::Name);
 }
 
+bool ChannelFolder::removeAllFiles() const
+{
+    const QDir dir(m_path);
+    const QStringList names = dir.entryList(
+        QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+    bool allRemoved = true;
+    for (const QString &name : names) {
+        if (!QFile::remove(dir.absoluteFilePath(name)))
+            allRemoved = false;
+    }
+    return allRemoved;
+}
+
 ChannelFolder::LoadResult ChannelFolder::load(Channels *channels) const
 {
     channels->clear();

@@ -33,6 +33,8 @@ public:
     /// Absolute path of the folder.
     QString path() const;
 
+    bool exists() const;
+
     /// Absolute path of the basic file, the copy of the file of the channel with id 0.
     QString basicFilePath() const;
 
@@ -57,13 +59,16 @@ public:
     static std::unique_ptr<ZvChannel> newChannel(const QString &filePath, int id, int index,
                                                  const QString &name);
 
+    /// Removes every file in the folder, whatever it is called, and no folder. False if one stayed;
+    /// the others are gone all the same.
+    bool removeAllFiles() const;
+
     /// Replaces the basic file beside the file of @p channel by a copy of that file. The old one is
     /// removed first, so a channel that lives in the basic file itself loses it. Neither step
     /// reports a failure.
     static void copyToBasicFile(const ZvChannel &channel);
 
 private:
-    bool exists() const;
     bool create() const;
     Channels readChannels(const QStringList &fileNames) const;
     bool createDefaultChannels(Channels *channels) const;

@@ -66,6 +66,13 @@ public Q_SLOTS:
     /// basic channel is guarded by whoever offers the command. Tells the user if the file stays.
     void removeCurrentChannel();
 
+    /// Lets the user choose the place of the current channel, as a drag of its tab would, and moves
+    /// it there. The first tab stays where it is.
+    void showChangeChannelOrderDialog();
+
+    /// Shows what there is to know about the current channel.
+    void showCurrentChannelInformation();
+
     /// Gives the channel of the tab another name, as a step of undo. A name that another tab has or
     /// that holds a forbidden character is refused with a message.
     void changeChannelNameWithUndo(int tabIndex, const QString &name);
@@ -102,6 +109,8 @@ private:
     bool confirmChannelDeletion(const QString &channelName);
     void removeTab(ZvScheduleWorkingArea *area);
     void forgetArea(const ZvScheduleWorkingArea *area);
+    QList<ZvChannel *> channelsToChangePlacesWith() const;
+    void moveChannelTo(int from, int to);
     QStringList namesOfOtherTabs(int tabIndex) const;
     void refuseName(const QString &text);
     void showCritical(const QString &title, const QString &text);
