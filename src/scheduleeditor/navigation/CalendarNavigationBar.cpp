@@ -13,7 +13,7 @@ namespace Zavo {
 namespace {
 
 constexpr int menuButtonMinimumWidthPx = 32;
-constexpr double iconPx = 16.0;
+constexpr double barIconPx = 16.0;
 
 const QLatin1String barStyle("QWidget#qt_calendar_navigationbar{color: black;font-weight: bold;"
                              "background-color: lightgray;}");
@@ -23,7 +23,7 @@ QToolButton *findButton(const QWidget *bar, const char *name)
     return bar ? bar->findChild<QToolButton *>(QLatin1String(name)) : nullptr;
 }
 
-void exchange(QBoxLayout *layout, QWidget *first, QWidget *second)
+void exchangeWidgets(QBoxLayout *layout, QWidget *first, QWidget *second)
 {
     const int firstIndex = layout->indexOf(first);
     const int secondIndex = layout->indexOf(second);
@@ -104,7 +104,7 @@ void CalendarNavigationBar::setArrows(Qt::LayoutDirection direction)
 
 void CalendarNavigationBar::setIconRatio(double ratio)
 {
-    const QSize size = (QSizeF(iconPx, iconPx) * ratio).toSize();
+    const QSize size = (QSizeF(barIconPx, barIconPx) * ratio).toSize();
     for (QToolButton *button : {previousMonthButton(), nextMonthButton(), menuButton()}) {
         if (button)
             button->setIconSize(size);
@@ -119,7 +119,7 @@ void CalendarNavigationBar::placeYear(const QString &longDate, int year)
     m_yearButton->setProperty(NavigationName::YearNameProperty, name);
     if (layout() && m_monthButton &&
         layout()->indexOf(m_yearButton) > layout()->indexOf(m_monthButton))
-        exchange(layout(), m_monthButton, m_yearButton);
+        exchangeWidgets(layout(), m_monthButton, m_yearButton);
 }
 
 void CalendarNavigationBar::completeYearText()
