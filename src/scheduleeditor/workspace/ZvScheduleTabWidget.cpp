@@ -52,14 +52,15 @@ bool ZvScheduleTabWidget::eventFilter(QObject *watched, QEvent *event)
         pressTabBar(*static_cast<const QMouseEvent *>(event));
         break;
     case QEvent::MouseMove:
-        if (m_pressed && !mayDragTo(*static_cast<const QMouseEvent *>(event))) {
+        if (!watchDrag(*static_cast<const QMouseEvent *>(event))) {
             event->accept();
             QTimer::singleShot(0, this, SLOT(showNotTabMovedToolTip()));
             return true;
         }
         break;
     case QEvent::MouseButtonRelease:
-        releaseTabBar(*static_cast<const QMouseEvent *>(event));
+        if (static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton)
+            finishDrag();
         break;
     default:
         break;
@@ -78,6 +79,14 @@ void ZvScheduleTabWidget::pressTabBar(const QMouseEvent &event)
     m_pressed = true;
 }
 
+// False if the bar must not see the move. A menu that opened in the drag has taken its release.
+bool ZvScheduleTabWidget::watchDrag(const QMouseEvent &event)
+{
+    if (m_pressed && event.buttons() == Qt::NoButton)
+        finishDrag();
+    return !m_pressed || mayDragTo(event);
+}
+
 // The dragged tab stops when its left edge reaches the middle of the first tab.
 bool ZvScheduleTabWidget::mayDragTo(const QMouseEvent &event) const
 {
@@ -86,10 +95,8 @@ bool ZvScheduleTabWidget::mayDragTo(const QMouseEvent &event) const
 }
 
 // The bar has moved the current tab along with the drag.
-void ZvScheduleTabWidget::releaseTabBar(const QMouseEvent &event)
+void ZvScheduleTabWidget::finishDrag()
 {
-    if (event.button() != Qt::LeftButton)
-        return;
     onTabMoved(m_pressedIndex, currentIndex());
     m_pressedIndex = 0;
     m_pressed = false;

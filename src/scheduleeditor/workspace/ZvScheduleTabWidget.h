@@ -63,8 +63,9 @@ private Q_SLOTS:
 
 private:
     void pressTabBar(const QMouseEvent &event);
+    bool watchDrag(const QMouseEvent &event);
     bool mayDragTo(const QMouseEvent &event) const;
-    void releaseTabBar(const QMouseEvent &event);
+    void finishDrag();
 
     bool m_movingTabs = false;
     int m_pressedIndex = 0;
