@@ -38,4 +38,14 @@ inline constexpr char ShowWeekNumberAction[] = "Action_ShowWeekNumber";
 /// Followed by the number of the day.
 inline constexpr char FirstDayOfWeekActionPrefix[] = "Action_FirstDayOfWeek_";
 
+inline constexpr char ScheduleListToolMenu[] = "Menu_ToolMenu";
+inline constexpr char NewScheduleAction[] = "Action_New_Schedule";
+
+// The radio buttons of the dialog that specifies a schedule. A word follows the first, the number
+// of the day the second.
+inline constexpr char TypeButtonPrefix[] = "Type_";
+inline constexpr char DayButtonPrefix[] = "DayOfWeek_";
+/// Property of these buttons: the number of the type or of the day.
+inline constexpr char ValueProperty[] = "value";
+
 } // namespace Zavo::NavigationName

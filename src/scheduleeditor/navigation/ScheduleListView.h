@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QTreeView>
+
+namespace Zavo {
+
+/// The flat table of the schedule list. Its rows can be selected and marked, by mouse and key, and
+/// not edited.
+class ScheduleListView final : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit ScheduleListView(QWidget *parent = nullptr);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+};
+
+} // namespace Zavo
