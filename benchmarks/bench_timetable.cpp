@@ -38,6 +38,12 @@ constexpr Figure figures[] = {
     {"insert n/2 in front of n/2 / own load", "insertFront", true, 0.0, 1.2},
     {"remove the first n/2 / own load", "removeFront", true, 0.0, 1.2},
     {"undo of a move of all / own load", "undoMove", true, 0.0, 1.2},
+    {"cut of all / own load", "cut", true, 0.0, 1.2},
+    {"paste of all / own load", "paste", true, 0.0, 1.5},
+    {"undo of a cut / own load", "undoCut", true, 0.0, 1.2},
+    {"redo of a cut / own load", "redoCut", true, 0.0, 1.2},
+    {"undo of a paste / own load", "undoPaste", true, 0.0, 1.2},
+    {"redo of a paste / own load", "redoPaste", true, 0.0, 1.2},
 };
 
 int pairsOf(int count)

@@ -120,6 +120,49 @@ QVector<Operation> halfOperations(OwnTimeTable *table, const QList<ZvTime> &band
     };
 }
 
+/// Each is measured from a table that @p prepare has made.
+QVector<Operation> clipboardOperations(OwnTimeTable *table, const QList<ZvTime> &bands)
+{
+    const auto selected = [table, bands] {
+        fill(table, bands);
+        table->selectAll();
+        table->settle();
+    };
+    const auto isCut = [table, selected] {
+        selected();
+        table->cut();
+        table->settle();
+    };
+    const auto isPasted = [table, isCut] {
+        isCut();
+        table->paste();
+        table->settle();
+    };
+    const auto refill = [table, bands] { fill(table, bands); };
+    const auto operation = [table, refill](const char *name, const std::function<void()> &prepare,
+                                           void (OwnTimeTable::*work)()) {
+        return Operation{QString::fromLatin1(name), prepare,
+                         [table, work] {
+                             (table->*work)();
+                             table->settle();
+                         },
+                         refill};
+    };
+    const auto undone = [table](const std::function<void()> &prepare) {
+        return [table, prepare] {
+            prepare();
+            table->undo();
+            table->settle();
+        };
+    };
+    return {operation("cut", selected, &OwnTimeTable::cut),
+            operation("paste", isCut, &OwnTimeTable::paste),
+            operation("undoCut", isCut, &OwnTimeTable::undo),
+            operation("redoCut", undone(isCut), &OwnTimeTable::redo),
+            operation("undoPaste", isPasted, &OwnTimeTable::undo),
+            operation("redoPaste", undone(isPasted), &OwnTimeTable::redo)};
+}
+
 Operation undoMoveOperation(OwnTimeTable *table)
 {
     return {QStringLiteral("undoMove"), [] {},
@@ -153,6 +196,7 @@ QVector<Operation> operationsOf(OwnTimeTable *table, int count)
     });
     operations += halfOperations(table, bands);
     operations += undoMoveOperation(table);
+    operations += clipboardOperations(table, bands);
     return operations;
 }
 

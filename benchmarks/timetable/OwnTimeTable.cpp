@@ -3,6 +3,7 @@
 #include "DenseDay.h"
 
 #include "ZvChannel.h"
+#include "services/UndoCommands.h"
 #include "timetable/TimeItemRects.h"
 #include "timetable/TimeTableLabelPool.h"
 #include "timetable/TimeTableText.h"
@@ -15,6 +16,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QMouseEvent>
+#include <QUndoStack>
 
 using namespace Zavo;
 
@@ -22,6 +24,7 @@ namespace {
 
 constexpr QSize pageSize{900, 700};
 constexpr int turnsUntilLabelled = 10;
+constexpr double secondsIntoTheDay = 15.0; // units below the strip's edge, of which ten are margin
 const QDate firstDate(2040, 1, 2);
 
 ZvScheduleBasicInfo infoOf(bool second)
@@ -110,6 +113,42 @@ QMap<int, QRectF> OwnTimeTable::rects() const
 void OwnTimeTable::place(const QMap<int, QRectF> &rects)
 {
     m_area->moveTimeItems(rects);
+}
+
+void OwnTimeTable::push(QUndoCommand *command)
+{
+    m_area->undoStack()->clear();
+    m_area->undoStack()->push(command);
+}
+
+void OwnTimeTable::cut()
+{
+    const QList<ZvTime> times = m_area->cutSelectedItems();
+    push(new UndoCommand::RemoveTimeItem(times, m_area->currentScheduleInfo(), m_area.get()));
+}
+
+void OwnTimeTable::paste()
+{
+    const QRectF strip = scene()->timeZoneItem()->sceneBoundingRect();
+    const QPointF start(strip.center().x(), strip.top() + secondsIntoTheDay);
+    m_view->centerOn(start);
+    m_mousePos = m_view->mapFromScene(start);
+    sendMouse(QEvent::MouseButtonPress, Qt::LeftButton);
+    sendMouse(QEvent::MouseButtonRelease, Qt::LeftButton);
+    if (!m_area->pasteItems())
+        qFatal("nothing was pasted");
+    push(new UndoCommand::PasteTimeItem({}, m_area->currentTimes(), m_area->currentScheduleInfo(),
+                                        m_area.get()));
+}
+
+void OwnTimeTable::undo()
+{
+    m_area->undoStack()->undo();
+}
+
+void OwnTimeTable::redo()
+{
+    m_area->undoStack()->redo();
 }
 
 QPoint OwnTimeTable::pointOnSelection() const

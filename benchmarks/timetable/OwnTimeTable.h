@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class QUndoCommand;
+
 namespace Zavo {
 class ZvScheduleWorkingArea;
 class ZvTimeTableScene;
@@ -41,6 +43,12 @@ public:
     /// Sets the bands to these places, as the undo of a move does.
     void place(const QMap<int, QRectF> &rects);
 
+    /// Cuts the selection, and pastes it at the start of the day, as steps of undo.
+    void cut();
+    void paste();
+    void undo();
+    void redo();
+
     /// Presses the mouse on a selected band in sight; dragBy() then moves the selection.
     void startDrag();
     void dragBy(int pixels);
@@ -57,6 +65,7 @@ public:
 private:
     Zavo::ZvTimeTableScene *scene() const;
     QList<Zavo::ZvTimeTableTimeItem *> items() const;
+    void push(QUndoCommand *command);
     QPoint pointOnSelection() const;
     void sendMouse(int type, Qt::MouseButton button);
 

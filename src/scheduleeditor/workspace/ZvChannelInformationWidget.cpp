@@ -53,6 +53,7 @@ void ZvChannelInformationWidget::addRow(QGridLayout *layout, int row, const QStr
     auto *value = new QLabel(this);
     value->setObjectName(LabelPrefix + key);
     value->setTextFormat(Qt::PlainText);
+    value->setWordWrap(true);
     m_valueLabels.insert(key, value);
     layout->addWidget(new QLabel(caption, this), row, CaptionColumn);
     layout->addWidget(value, row, ValueColumn);
