@@ -16,7 +16,7 @@ namespace {
 
 constexpr int CaptionColumn = 0;
 constexpr int ValueColumn = 1;
-constexpr int SpacerSize = 16; // px
+constexpr int InformationSpacer = 16; // px
 
 // The names of the value labels are these with a prefix.
 const QLatin1String IdKey("id");
@@ -25,7 +25,7 @@ const QLatin1String OrderKey("order");
 const QLatin1String DefaultScheduleKey("default_schedule");
 const QLatin1String DayOfWeekScheduleKey("dayofweek_schedule");
 const QLatin1String DateScheduleKey("date_schedule");
-const QLatin1String LabelPrefix("i_");
+const QLatin1String ValueLabelPrefix("i_");
 
 } // namespace
 
@@ -51,7 +51,7 @@ void ZvChannelInformationWidget::addRow(QGridLayout *layout, int row, const QStr
                                         const QString &key)
 {
     auto *value = new QLabel(this);
-    value->setObjectName(LabelPrefix + key);
+    value->setObjectName(ValueLabelPrefix + key);
     value->setTextFormat(Qt::PlainText);
     value->setWordWrap(true);
     m_valueLabels.insert(key, value);
@@ -91,8 +91,8 @@ void ZvChannelInformationWidget::showDialog(ZvChannel *channel, QWidget *parent)
     connect(buttons, SIGNAL(rejected()), dialog, SLOT(reject()));
     auto *layout = new QVBoxLayout(dialog);
     layout->addWidget(new ZvChannelInformationWidget(channel, dialog));
-    layout->addSpacerItem(
-        new QSpacerItem(SpacerSize, SpacerSize, QSizePolicy::Minimum, QSizePolicy::Expanding));
+    layout->addSpacerItem(new QSpacerItem(InformationSpacer, InformationSpacer,
+                                          QSizePolicy::Minimum, QSizePolicy::Expanding));
     layout->addWidget(buttons);
     dialog->exec();
     delete dialog;

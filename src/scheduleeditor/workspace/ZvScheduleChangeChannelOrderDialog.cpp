@@ -12,8 +12,8 @@ namespace Zavo {
 
 namespace {
 
-constexpr int MinimumWidth = 360; // px
-constexpr int SpacerSize = 16;    // px
+constexpr int OrderDialogWidth = 360; // px
+constexpr int OrderDialogSpacer = 16; // px
 
 } // namespace
 
@@ -25,7 +25,7 @@ ZvScheduleChangeChannelOrderDialog::ZvScheduleChangeChannelOrderDialog(
 {
     setWindowTitle(tr("Change Channel Order"));
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
-    setMinimumWidth(MinimumWidth);
+    setMinimumWidth(OrderDialogWidth);
     m_orderComboBox = createOrderComboBox();
     auto *note = new QLabel(tr("*This operation can not be undone."), this);
     note->setStyleSheet(QStringLiteral("QLabel{color:blue;}"));
@@ -36,8 +36,8 @@ ZvScheduleChangeChannelOrderDialog::ZvScheduleChangeChannelOrderDialog(
     layout->addWidget(new QLabel(tr("Move To"), this));
     layout->addWidget(m_orderComboBox);
     layout->addWidget(note);
-    layout->addSpacerItem(
-        new QSpacerItem(SpacerSize, SpacerSize, QSizePolicy::Minimum, QSizePolicy::Expanding));
+    layout->addSpacerItem(new QSpacerItem(OrderDialogSpacer, OrderDialogSpacer,
+                                          QSizePolicy::Minimum, QSizePolicy::Expanding));
     addButtons(layout);
 }
 
