@@ -94,6 +94,8 @@ private Q_SLOTS:
     void highlightStaysUntilTheFrameIsLeft();
     void highlightFollowsThePage();
     void dragDoesNotHover();
+    void standsTheEndsOfTime_data();
+    void standsTheEndsOfTime();
 
 private:
     QImage grab(double ratio) const;
@@ -501,6 +503,32 @@ void tst_CalendarCells::dragDoesNotHover()
     QCOMPARE(m_calendar->selectedDate(), shown.addDays(16));
     m_mouse->hover(shown.addDays(16));
     QCOMPARE(highlighted(), shown.addDays(16));
+}
+
+void tst_CalendarCells::standsTheEndsOfTime_data()
+{
+    QTest::addColumn<int>("year");
+    QTest::addColumn<int>("month");
+    QTest::newRow("last month") << 9999 << 12;
+    QTest::newRow("first month of our era") << 1 << 1;
+    QTest::newRow("first month") << -4713 << 1;
+}
+
+void tst_CalendarCells::standsTheEndsOfTime()
+{
+    QFETCH(int, year);
+    QFETCH(int, month);
+    m_calendar->setCurrentPage(year, month);
+    const QTableView *view = m_mouse->view();
+    for (int row = 0; row < view->model()->rowCount(); ++row) {
+        for (int column = 0; column < view->model()->columnCount(); ++column) {
+            m_mouse->hover(view->visualRect(view->model()->index(row, column)).center());
+            QCoreApplication::processEvents();
+        }
+    }
+    m_calendar->selectWeek();
+    m_calendar->selectMonth();
+    QVERIFY(m_calendar->selectedDates().contains(m_calendar->selectedDate()));
 }
 
 QTEST_MAIN(tst_CalendarCells)
