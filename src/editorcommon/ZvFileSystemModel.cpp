@@ -21,6 +21,12 @@ QString uriListType()
 {
     return QStringLiteral("text/uri-list");
 }
+
+// The name of the root is a path.
+QString fileNameOf(const ZvFileSystemNode &node)
+{
+    return node.parent() ? node.name() : QFileInfo(node.name()).fileName();
+}
 } // namespace
 
 ZvFileSystemModel::ZvFileSystemModel(QObject *parent)
@@ -317,9 +323,7 @@ QString ZvFileSystemModel::filePath(const QModelIndex &index) const
 QString ZvFileSystemModel::fileName(const QModelIndex &index) const
 {
     const ZvFileSystemNode *node = nodeAt(index);
-    if (!node)
-        return {};
-    return node->parent() ? node->name() : QFileInfo(node->name()).fileName();
+    return node ? fileNameOf(*node) : QString();
 }
 
 bool ZvFileSystemModel::isDir(const QModelIndex &index) const
@@ -375,7 +379,7 @@ QVariant ZvFileSystemModel::displayData(const ZvFileSystemNode &node, int column
 {
     switch (column) {
     case NameColumn:
-        return fileName(indexOf(&node));
+        return fileNameOf(node);
     case SizeColumn:
         return node.isDir() ? QString() : QLocale().formattedDataSize(node.info().size());
     case TypeColumn:
