@@ -2,6 +2,7 @@
 
 #include "domain/MessageBox.h"
 #include "stages/GeneratedStage.h"
+#include "stages/StageItemDelegate.h"
 #include "stages/StageSwitching.h"
 #include "stages/StagesNames.h"
 #include "stages/ZvScheduleAutoStageSwichSettingWidget.h"
@@ -86,6 +87,7 @@ void ZvScheduleStageListView::setupModel()
 void ZvScheduleStageListView::setupView()
 {
     setModel(m_model);
+    setItemDelegate(new StageItemDelegate(this));
     setViewMode(QListView::ListMode);
     setWrapping(true);
     setResizeMode(QListView::Adjust);
