@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ZvTime.h"
+
+#include <QList>
 #include <QListView>
 #include <QPointer>
 #include <QStringList>
@@ -14,7 +17,6 @@ class QMimeData;
 namespace Zavo {
 
 class ZvFileSystemModel;
-class ZvTime;
 
 /// The stage files of the data folder as a list that follows the folder. It is where the drags of
 /// stages begin, and its context menu makes a stage the default stage of the schedule on show or
