@@ -16,7 +16,7 @@ namespace Zavo {
 namespace {
 
 constexpr double iconPx = 16.0;
-const QSize smallestPreview(240, 135);
+constexpr QSize smallestPreview(240, 135);
 constexpr double pictureHeight = 9.0; // for a width of 16
 constexpr double pictureHeightUnit = 0.0625;
 
@@ -46,7 +46,7 @@ QModelIndex onlyIndex(const QItemSelection &selection)
 {
     if (selection.size() != 1 || selection.first().height() != 1)
         return {};
-    return selection.first().topLeft();
+    return selection.first().indexes().value(0);
 }
 
 } // namespace

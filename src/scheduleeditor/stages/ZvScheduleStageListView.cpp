@@ -24,7 +24,7 @@ namespace Zavo {
 
 namespace {
 
-const QSize smallestList(240, 180);
+constexpr QSize smallestList(240, 180);
 
 const QLatin1String stageFolderName("stage");
 const QLatin1String lineBreak("\r\n");
