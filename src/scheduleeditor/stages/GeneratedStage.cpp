@@ -11,10 +11,10 @@ namespace Zavo {
 
 namespace {
 
-const QLatin1String mark("_d_.");
+const QLatin1String generatedMark("_d_.");
 constexpr int largestStageBytes = 1 << 30;
 
-bool copy(const QString &source, const QString &target)
+bool copyStage(const QString &source, const QString &target)
 {
     QByteArray content;
     if (!BoundedFile::read(source, largestStageBytes, &content) ||
@@ -34,13 +34,13 @@ QString GeneratedStage::namePattern()
 
 bool GeneratedStage::isGenerated(const QString &stageName)
 {
-    return QFileInfo(stageName).completeSuffix().contains(mark);
+    return QFileInfo(stageName).completeSuffix().contains(generatedMark);
 }
 
 QString GeneratedStage::nameFor(const QString &stageName)
 {
     const QFileInfo info(stageName);
-    return info.baseName() + QLatin1Char('.') + mark + info.completeSuffix();
+    return info.baseName() + QLatin1Char('.') + generatedMark + info.completeSuffix();
 }
 
 GeneratedStage::Result GeneratedStage::write(const QString &folder, const QString &stageName)
@@ -50,7 +50,7 @@ GeneratedStage::Result GeneratedStage::write(const QString &folder, const QStrin
     const bool isTaken = target.exists() || target.isSymLink();
     if (isTaken && !QFile::remove(target.filePath()))
         return OldNotRemoved;
-    return copy(dir.absoluteFilePath(stageName), target.filePath()) ? Written : NotWritten;
+    return copyStage(dir.absoluteFilePath(stageName), target.filePath()) ? Written : NotWritten;
 }
 
 } // namespace Zavo

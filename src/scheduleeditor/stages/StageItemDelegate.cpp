@@ -6,9 +6,9 @@ namespace Zavo {
 
 namespace {
 
-constexpr int mostSizes = 100000;
+constexpr int mostNamesMeasured = 100000;
 
-const QStyle *styleOf(const QStyleOptionViewItem &option)
+const QStyle *styleOfItem(const QStyleOptionViewItem &option)
 {
     return option.widget ? option.widget->style() : nullptr;
 }
@@ -33,12 +33,12 @@ QSize StageItemDelegate::unwrappedSize(const QStyleOptionViewItem &option,
                                        const QModelIndex &index) const
 {
     const bool isSame = m_font == option.font && m_iconSize == option.decorationSize &&
-                        m_style == styleOf(option) && m_sizes.size() < mostSizes;
+                        m_style == styleOfItem(option) && m_sizes.size() < mostNamesMeasured;
     if (!isSame) {
         m_sizes.clear();
         m_font = option.font;
         m_iconSize = option.decorationSize;
-        m_style = styleOf(option);
+        m_style = styleOfItem(option);
     }
     const QString name = index.data().toString();
     const auto known = m_sizes.constFind(name);

@@ -24,12 +24,12 @@ constexpr int intervalStepSeconds = 60;
 constexpr int usualIntervalSeconds = 300;
 
 /// Stands for 24 o'clock.
-QTime endOfDay()
+QTime twentyFourOclock()
 {
     return {23, 59, 59, 999};
 }
 
-QTime lastSecond()
+QTime lastSecondOfDay()
 {
     return {23, 59, 59};
 }
@@ -43,7 +43,7 @@ QTimeEdit *createTimeEdit(QTime earliest, QTime latest, QTime time)
     return edit;
 }
 
-QLabel *createNote(const QString &text)
+QLabel *createWarning(const QString &text)
 {
     auto *note = new QLabel(text);
     note->setWordWrap(true);
@@ -55,7 +55,7 @@ QLabel *createNote(const QString &text)
 }
 
 // What is damaged counts as not stored.
-QTime storedTime(const QString &key, QTime defaultTime)
+QTime storedSwitchTime(const QString &key, QTime defaultTime)
 {
     const QTime time = ZvEditorUserConfig::value(key).toTime();
     return time.isValid() ? time : defaultTime;
@@ -67,7 +67,7 @@ ZvScheduleAutoStageSwichSettingWidget::ZvScheduleAutoStageSwichSettingWidget(QWi
     : QWidget(parent)
     , m_intervalSpinBox(new QSpinBox)
     , m_fromTimeEdit(createTimeEdit({0, 0, 0}, {23, 59, 0}, {0, 0, 0}))
-    , m_toTimeEdit(createTimeEdit({0, 1, 0}, lastSecond(), lastSecond()))
+    , m_toTimeEdit(createTimeEdit({0, 1, 0}, lastSecondOfDay(), lastSecondOfDay()))
     , m_at24oclockCheckBox(new QCheckBox(tr("24 o'clock")))
 {
     setObjectName(QLatin1String(StagesName::SwitchSettings));
@@ -80,7 +80,7 @@ ZvScheduleAutoStageSwichSettingWidget::ZvScheduleAutoStageSwichSettingWidget(QWi
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(about);
     layout->addWidget(
-        createNote(tr("Note: All stages already set to the timetable will be deleted.")));
+        createWarning(tr("Note: All stages already set to the timetable will be deleted.")));
     layout->addLayout(createIntervalRow());
     layout->addWidget(createRangeBox());
     layout->addStretch();
@@ -147,7 +147,7 @@ void ZvScheduleAutoStageSwichSettingWidget::executeButtonClicked()
 {
     const int interval = m_intervalSpinBox->value();
     const QTime from = m_fromTimeEdit->time();
-    const QTime to = m_at24oclockCheckBox->isChecked() ? endOfDay() : m_toTimeEdit->time();
+    const QTime to = m_at24oclockCheckBox->isChecked() ? twentyFourOclock() : m_toTimeEdit->time();
     storeSettings(interval, from, to);
     const QPointer<ZvScheduleAutoStageSwichSettingWidget> self(this);
     Q_EMIT requestExecute(interval, from, to);
@@ -167,15 +167,15 @@ void ZvScheduleAutoStageSwichSettingWidget::loadSettings()
     const int interval = qMax(
         1,
         ZvEditorUserConfig::value(settingsKey(StagesName::Interval), usualIntervalSeconds).toInt());
-    const QTime from = storedTime(settingsKey(StagesName::FromTime), QTime(0, 0));
-    QTime to = storedTime(settingsKey(StagesName::ToTime), endOfDay());
+    const QTime from = storedSwitchTime(settingsKey(StagesName::FromTime), QTime(0, 0));
+    QTime to = storedSwitchTime(settingsKey(StagesName::ToTime), twentyFourOclock());
     // A range that holds no interval is shown as an empty one.
     if (from.secsTo(to) < interval)
         to = from;
     m_intervalSpinBox->setValue(interval);
     m_fromTimeEdit->setTime(from);
-    const bool isAt24oclock = to == endOfDay();
-    m_toTimeEdit->setTime(isAt24oclock ? lastSecond() : to);
+    const bool isAt24oclock = to == twentyFourOclock();
+    m_toTimeEdit->setTime(isAt24oclock ? lastSecondOfDay() : to);
     m_at24oclockCheckBox->setChecked(isAt24oclock);
     m_toTimeEdit->setEnabled(!isAt24oclock);
 }

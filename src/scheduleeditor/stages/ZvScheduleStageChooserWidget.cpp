@@ -15,12 +15,12 @@ namespace Zavo {
 
 namespace {
 
-constexpr double iconPx = 16.0;
+constexpr double chooserIconPx = 16.0;
 constexpr QSize smallestPreview(240, 135);
-constexpr double pictureHeight = 9.0; // for a width of 16
-constexpr double pictureHeightUnit = 0.0625;
+constexpr double previewHeightParts = 9.0; // of 16 parts in the width
+constexpr double previewWidthPart = 0.0625;
 
-QString checkBoxStyle(double ratio)
+QString previewBoxStyle(double ratio)
 {
     return QStringLiteral(
                "QCheckBox::indicator{width: %1px; height: %1px;}"
@@ -30,10 +30,10 @@ QString checkBoxStyle(double ratio)
                "QCheckBox::indicator:checked{image: url(':/images/triangle_down.svg');}"
                "QCheckBox::indicator:checked:hover{image: "
                "url(':/images/triangle_down_hover.svg');}")
-        .arg(ratio * iconPx);
+        .arg(ratio * chooserIconPx);
 }
 
-QSize scaled(const QSize &size, double ratio)
+QSize scaledLimits(const QSize &size, double ratio)
 {
     const auto length = [ratio](int atOne) {
         return static_cast<int>(qMin<double>(atOne * ratio, QWIDGETSIZE_MAX));
@@ -42,7 +42,7 @@ QSize scaled(const QSize &size, double ratio)
 }
 
 // Selecting all takes the columns that the list does not show as well; a stage counts once.
-QModelIndex onlyIndex(const QItemSelection &selection)
+QModelIndex onlyStageIn(const QItemSelection &selection)
 {
     if (selection.size() != 1 || selection.first().height() != 1)
         return {};
@@ -133,7 +133,7 @@ void ZvScheduleStageChooserWidget::setPreviewVisible(bool visible)
 
 void ZvScheduleStageChooserWidget::setPreviewSizeToDefault()
 {
-    const double height = m_preview->width() * pictureHeight * pictureHeightUnit;
+    const double height = m_preview->width() * previewHeightParts * previewWidthPart;
     m_preview->resize(m_preview->width(), static_cast<int>(height));
     m_splitter->setSizes(
         {static_cast<int>(height), static_cast<int>(m_splitter->height() - height)});
@@ -155,7 +155,7 @@ void ZvScheduleStageChooserWidget::onPreviewCheckBoxToggled(bool checked)
 void ZvScheduleStageChooserWidget::listViewSelectionChanged(const QItemSelection &selected,
                                                             const QItemSelection &)
 {
-    const QModelIndex index = onlyIndex(selected);
+    const QModelIndex index = onlyStageIn(selected);
     const auto *model = qobject_cast<const ZvFileSystemModel *>(index.model());
     ZvStage stage(model ? model->filePath(index) : QString());
     if (model && stage.readFile())
@@ -182,8 +182,8 @@ void ZvScheduleStageChooserWidget::onIsCurrentScheduleEnabled(bool *enabled)
 
 void ZvScheduleStageChooserWidget::scaleIcons()
 {
-    m_previewCheckBox->setStyleSheet(checkBoxStyle(m_dpiRatio.ratio()));
-    const int iconLength = static_cast<int>(iconPx * m_dpiRatio.ratio());
+    m_previewCheckBox->setStyleSheet(previewBoxStyle(m_dpiRatio.ratio()));
+    const int iconLength = static_cast<int>(chooserIconPx * m_dpiRatio.ratio());
     m_listView->setIconSize({iconLength, iconLength});
 }
 
@@ -191,8 +191,8 @@ void ZvScheduleStageChooserWidget::applyDpiRatio()
 {
     const double ratio = m_dpiRatio.ratio();
     scaleIcons();
-    m_preview->setMinimumSize(scaled(m_previewMinimumSize, ratio));
-    m_preview->setMaximumSize(scaled(m_previewMaximumSize, ratio));
+    m_preview->setMinimumSize(scaledLimits(m_previewMinimumSize, ratio));
+    m_preview->setMaximumSize(scaledLimits(m_previewMaximumSize, ratio));
 }
 
 } // namespace Zavo
