@@ -1,6 +1,9 @@
 #include "../services/TwoTabs.h"
 #include "MessageBoxAnswer.h"
+#include "SceneMouse.h"
 #include "SignalLog.h"
+
+#include "services/ZvScheduleClipboard.h"
 
 #include <QToolBar>
 #include <QtTest>
@@ -92,6 +95,7 @@ private Q_SLOTS:
     void moveRequestIsNotHeard();
     void closeButtonIsQueued();
     void pageDiesBehindTheQuestion();
+    void pageDiesBehindTheMessage();
 };
 
 void tst_SignalOrder::relaysAreDirect()
@@ -430,6 +434,27 @@ void tst_SignalOrder::pageDiesBehindTheQuestion()
         QCOMPARE(tabs.first()->undoStack()->count(), 0);
         QCOMPARE(tabs.first()->channelName(), QStringLiteral("Second"));
     }
+}
+
+// A band of a foreign payload that cannot be placed is told while the others are being placed.
+void tst_SignalOrder::pageDiesBehindTheMessage()
+{
+    TwoTabs tabs;
+    tabs.first()->removeTimeItems(mondayBands);
+    tabs.view()->centerOn(QPointF(180.0, yOf("15:00:00")));
+    SceneMouse(tabs.view()).click(QPointF(180.0, yOf("15:00:00")));
+    const QList<ZvTime> overlapping{band("01:00:00", "02:00:00"), band("01:10:00", "01:20:00"),
+                                    band("01:30:00", "01:40:00"), band("01:50:00", "02:10:00")};
+    ZvScheduleClipboard::writeTimesToClipboard(overlapping);
+    MessageBoxAnswer boxes;
+    boxes.expect(QMessageBox::Ok).whileShown([&tabs](QMessageBox *) {
+        delete tabs.first();
+        tabs.main.purgedScenes.clear();
+    });
+    QVERIFY(!tabs.widget()->pasteItems());
+    QVERIFY(boxes.isDone());
+    QCOMPARE(tabs.main.tabs()->count(), 1);
+    QCOMPARE(tabs.first()->undoStack()->count(), 0);
 }
 
 QTEST_MAIN(tst_SignalOrder)

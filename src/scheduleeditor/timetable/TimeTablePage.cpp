@@ -208,7 +208,10 @@ bool TimeTablePage::pasteItems()
         timeItemsInRange(pasted.first().startTime(), pasted.last().endTime());
     if (!removed.isEmpty() && !makeRoom(removed))
         return false;
+    const QPointer<TimeTablePage> self(this);
     insertTimeItems(pasted);
+    if (!self) // A message about a band runs an event loop.
+        return false;
     Q_EMIT timeItemPasted(removed, pasted);
     return true;
 }

@@ -14,6 +14,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPen>
+#include <QPointer>
 
 namespace Zavo {
 
@@ -39,13 +40,15 @@ public:
     }
     ~BulkChange()
     {
+        if (!m_strip)
+            return;
         Q_EMIT m_strip->requestDisableSelectionChanged(false);
         Q_EMIT m_strip->requestSelectionChanged();
     }
     Q_DISABLE_COPY(BulkChange)
 
 private:
-    ZvTimeTableTimeZoneItem *m_strip;
+    const QPointer<ZvTimeTableTimeZoneItem> m_strip;
 };
 
 ZvTimeTableTimeZoneItem::ZvTimeTableTimeZoneItem(QGraphicsItem *parent)
@@ -160,6 +163,7 @@ bool ZvTimeTableTimeZoneItem::insertTimeItems(QList<ZvTime> times)
     const double verticalScale = timeTableScene ? timeTableScene->verticalScale() : 1.0;
     clearSelection();
 
+    const QPointer<ZvTimeTableTimeZoneItem> self(this);
     const BulkChange bulk(this);
     bool allPlaced = true;
     m_timeItems.checkOrder();
@@ -167,9 +171,11 @@ bool ZvTimeTableTimeZoneItem::insertTimeItems(QList<ZvTime> times)
         if (insertTimeItem(time, verticalScale))
             continue;
         allPlaced = false;
-        // The message shows the table behind it.
+        // The message shows the table behind it, and runs an event loop, in which that may go.
         m_timeItems.renumber();
         Q_EMIT criticalErrorOccured(tr("Failed to assign \"%1\".").arg(time.stageName()));
+        if (!self)
+            return false;
     }
     m_timeItems.renumber();
     return allPlaced;
