@@ -1,4 +1,5 @@
 #include "Bench.h"
+#include "navigation/ScheduleList.h"
 #include "navigation/ZvCalendarWidget.h"
 
 #include <QApplication>
@@ -99,5 +100,6 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     Bench::Table table(QCoreApplication::arguments());
     benchPages(&table);
+    benchScheduleList(&table);
     return table.finish();
 }

@@ -37,14 +37,18 @@ public:
         for (const Zavo::ZvSchedule &schedule : schedules)
             channel.insertSchedule(schedule);
         showChannel();
-        for (const char *signal :
-             {SIGNAL(requestStoreCurrentSchedule()),
-                     SIGNAL(requestRemoveSchedule(QList<ZvScheduleBasicInfo>,bool)),
-                            SIGNAL(requestRemoveAndInsertSchedule(QList<ZvScheduleBasicInfo>,QList<ZvSchedule>)),
-                                   SIGNAL(requestCreateSchedule(QList<ZvScheduleBasicInfo>)),
-                                          SIGNAL(selectedScheduleChanged(ZvScheduleBasicInfo)),
-                                                 SIGNAL(requestEditMenuAboutToShow())})
-            log.watch(&list, signal);
+        // clang-format off
+        const char *const signals[] = {
+            SIGNAL(requestStoreCurrentSchedule()),
+            SIGNAL(requestRemoveSchedule(QList<ZvScheduleBasicInfo>,bool)),
+            SIGNAL(requestRemoveAndInsertSchedule(QList<ZvScheduleBasicInfo>,QList<ZvSchedule>)),
+            SIGNAL(requestCreateSchedule(QList<ZvScheduleBasicInfo>)),
+            SIGNAL(selectedScheduleChanged(ZvScheduleBasicInfo)),
+            SIGNAL(requestEditMenuAboutToShow()),
+        };
+        // clang-format on
+        for (const char *name : signals)
+            log.watch(&list, name);
     }
 
     Infos infos(int entry) const { return log.arguments(entry).value(0).value<Infos>(); }

@@ -10,8 +10,17 @@ ScheduleListView::ScheduleListView(QWidget *parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setRootIsDecorated(false);
     setAllColumnsShowFocus(true);
-    // Without this, a change of one row measures all rows above it.
     setUniformRowHeights(true);
+}
+
+// A tree looks for the place of a changed row among all rows. Here no row changes its height or has
+// children, so that the rows on show are painted again and that is all.
+void ScheduleListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                   const QVector<int> &roles)
+{
+    const int lastColumn = model()->columnCount() - 1;
+    QAbstractItemView::dataChanged(topLeft.siblingAtColumn(0),
+                                   bottomRight.siblingAtColumn(lastColumn), roles);
 }
 
 void ScheduleListView::keyPressEvent(QKeyEvent *event)

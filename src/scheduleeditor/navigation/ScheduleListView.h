@@ -13,6 +13,9 @@ class ScheduleListView final : public QTreeView
 public:
     explicit ScheduleListView(QWidget *parent = nullptr);
 
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles) override;
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 };
