@@ -2,7 +2,6 @@
 
 #include "navigation/NavigationNames.h"
 #include "navigation/ZvDayOfWeekWidget.h"
-#include "navigation/ZvScheduledToBeExecutedWidget.h"
 #include "navigation/ZvTodayWidget.h"
 #include "navigation/ZvWeekWidget.h"
 
@@ -76,33 +75,9 @@ QString longDate(const QDate &date)
     return QLocale::system().toString(date, QLocale::LongFormat);
 }
 
-/// A channel as the display asks for it.
-class ScheduleFacts final : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QDate> dates;
-    QList<int> days;
-    QStringList questions;
-
-public Q_SLOTS:
-    void answer(const QDate &date, bool *has)
-    {
-        questions.append(QStringLiteral("date"));
-        *has = dates.contains(date);
-    }
-    void answer(Qt::DayOfWeek day, bool *has)
-    {
-        questions.append(QStringLiteral("day"));
-        *has = days.contains(day);
-    }
-};
-
 } // namespace
 
-/// The widgets that name days: the week row with its cells, the line of today, and the display of
-/// what runs on a date.
+/// The widgets that name days: the week row with its cells, and the line of today.
 class tst_DayDisplays : public QObject
 {
     Q_OBJECT
@@ -131,11 +106,6 @@ private Q_SLOTS:
     void todayShowsTheDate();
     void todayReportsPressAndRelease();
     void todayShowsThePress();
-
-    void executedStartsWithTheDefault();
-    void executedFollowsThePrecedence_data();
-    void executedFollowsThePrecedence();
-    void executedWithoutAnswers();
 };
 
 // A day of the week
@@ -543,85 +513,6 @@ void tst_DayDisplays::todayShowsThePress()
     QTRY_VERIFY(screenOf(line).pixelColor(probe) != selectedFill);
     QTest::mouseMove(&window, QPoint(10, 100));
     QTRY_COMPARE(screenOf(line).pixelColor(probe), resting);
-}
-
-// What runs on a date
-
-void tst_DayDisplays::executedStartsWithTheDefault()
-{
-    const ZvScheduledToBeExecutedWidget display;
-    auto *title = qobject_cast<QLabel *>(display.layout()->itemAt(0)->widget());
-    QCOMPARE(title->text(), QStringLiteral("Scheduled to be executed on"));
-    QCOMPARE(title->styleSheet(), QStringLiteral("font-weight: bold;"));
-    auto *name = display.layout()->itemAt(1)->widget();
-    QCOMPARE(name->objectName(), QStringLiteral("zv_schedule_executed_name"));
-    QCOMPARE(name->layout()->contentsMargins(), QMargins());
-    auto *caption = qobject_cast<QLabel *>(name->layout()->itemAt(0)->widget());
-    QCOMPARE(caption->text(), QStringLiteral("Schedule:"));
-    auto *schedule = qobject_cast<QLabel *>(name->layout()->itemAt(1)->widget());
-    QCOMPARE(schedule->text(), QStringLiteral("DEFAULT"));
-    QCOMPARE(schedule->styleSheet(), QStringLiteral("color: orange;"));
-    QVERIFY(name->layout()->itemAt(2)->spacerItem());
-}
-
-void tst_DayDisplays::executedFollowsThePrecedence_data()
-{
-    QTest::addColumn<bool>("hasDate");
-    QTest::addColumn<bool>("hasDay");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("color");
-    QTest::addColumn<QStringList>("questions");
-    const QStringList first{QStringLiteral("date")};
-    const QStringList both{QStringLiteral("date"), QStringLiteral("day")};
-    const QString date = longDate(QDate(2031, 3, 5));
-    const QString day = QLocale::system().dayName(3, QLocale::LongFormat).toUpper();
-    QTest::newRow("both") << true << true << date << QStringLiteral("blue") << first;
-    QTest::newRow("date") << true << false << date << QStringLiteral("blue") << first;
-    QTest::newRow("day") << false << true << day << QStringLiteral("green") << both;
-    QTest::newRow("none") << false << false << QStringLiteral("DEFAULT") << QStringLiteral("orange")
-                          << both;
-}
-
-void tst_DayDisplays::executedFollowsThePrecedence()
-{
-    QFETCH(bool, hasDate);
-    QFETCH(bool, hasDay);
-    QFETCH(QString, color);
-    const QDate wednesday(2031, 3, 5);
-    ScheduleFacts facts;
-    // What stands beside the date and its day has no say.
-    facts.dates = {wednesday.addDays(7), wednesday.addYears(1)};
-    facts.days = {1, 2, 4, 5, 6, 7};
-    if (hasDate)
-        facts.dates.append(wednesday);
-    if (hasDay)
-        facts.days.append(3);
-    ZvScheduledToBeExecutedWidget display;
-    connect(&display, SIGNAL(requestHasSchedule(QDate,bool*)), &facts, SLOT(answer(QDate,bool*)));
-    connect(&display, SIGNAL(requestHasSchedule(Qt::DayOfWeek,bool*)), &facts,
-                             SLOT(answer(Qt::DayOfWeek,bool*)));
-    QVERIFY(QMetaObject::invokeMethod(&display, "onDateSelectionChanged", Q_ARG(QDate, wednesday)));
-    const QList<QLabel *> labels = display.findChildren<QLabel *>();
-    QCOMPARE(labels.size(), 3);
-    auto *title = qobject_cast<QLabel *>(display.layout()->itemAt(0)->widget());
-    auto *name = display.layout()->itemAt(1)->widget();
-    auto *schedule = qobject_cast<QLabel *>(name->layout()->itemAt(1)->widget());
-    QCOMPARE(title->text(),
-             QStringLiteral("Scheduled to be executed on %1 (Wed)").arg(longDate(wednesday)));
-    QTEST(schedule->text(), "text");
-    QCOMPARE(schedule->styleSheet(), QStringLiteral("color: %1;").arg(color));
-    QTEST(facts.questions, "questions");
-}
-
-void tst_DayDisplays::executedWithoutAnswers()
-{
-    ZvScheduledToBeExecutedWidget display;
-    display.onDateSelectionChanged(QDate(2031, 3, 5));
-    const auto *name = display.layout()->itemAt(1)->widget();
-    const auto *schedule = qobject_cast<QLabel *>(name->layout()->itemAt(1)->widget());
-    QCOMPARE(schedule->text(), QStringLiteral("DEFAULT"));
-    display.onDateSelectionChanged(QDate());
-    QCOMPARE(schedule->text(), QStringLiteral("DEFAULT"));
 }
 
 QTEST_MAIN(tst_DayDisplays)

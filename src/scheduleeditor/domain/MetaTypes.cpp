@@ -3,6 +3,7 @@
 #include "domain/ZvTimeTableTimeLabelInfo.h"
 
 #include <QMap>
+#include <QObject>
 #include <QRectF>
 
 namespace Zavo {
@@ -13,6 +14,7 @@ namespace {
 void registerMetaTypes()
 {
     qRegisterMetaType<QMap<int, QRectF>>("QMap<int,QRectF>");
+    qRegisterMetaType<Qt::DayOfWeek>("Qt::DayOfWeek");
     qRegisterMetaType<ZvScheduleBasicInfo>("ZvScheduleBasicInfo");
     qRegisterMetaType<ZvScheduleBasicInfo *>("ZvScheduleBasicInfo*");
     qRegisterMetaType<QList<ZvScheduleBasicInfo>>("QList<ZvScheduleBasicInfo>");

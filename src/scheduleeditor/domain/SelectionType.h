@@ -4,10 +4,10 @@
 
 namespace Zavo {
 
-/// The frames of the switcher that can hold the selection. The numbers are those of the settings
+/// The frames of the switcher that can hold the selection. The numbers are its own
 /// and not those of ZvSchedule::ScheduleTypes; the word of a value is the prefix of the object
 /// names of its frames.
-enum class SelectionType { Calendar = 1, Week = 2, DefaultSchedule = 3 };
+enum class SelectionType { None = 0, Calendar = 1, Week = 2, DefaultSchedule = 3 };
 
 } // namespace Zavo
 

@@ -23,6 +23,8 @@ ZvScheduledToBeExecutedWidget::ZvScheduledToBeExecutedWidget(QWidget *parent)
     , m_scheduleLabel(new QLabel(this))
 {
     m_titleLabel->setStyleSheet(QStringLiteral("font-weight: bold;"));
+    // A long date is no reason for a wide dock.
+    m_titleLabel->setWordWrap(true);
     m_captionLabel->setStyleSheet(
         QStringLiteral("padding: 5px;padding-right: 0px;margin-left:5px;"));
     showSchedule(tr("DEFAULT"), QStringLiteral("color: orange;"));

@@ -1,5 +1,6 @@
 #include "navigation/ZvTodayWidget.h"
 
+#include "navigation/ElidedLabel.h"
 #include "navigation/LookState.h"
 #include "navigation/NavigationNames.h"
 
@@ -29,7 +30,7 @@ ZvTodayWidget::ZvTodayWidget(QWidget *parent)
     : QFrame(parent)
     , m_titleLabel(new QLabel(tr("Today:"), this))
     , m_dateLabel(new QLabel(this))
-    , m_dayLabel(new QLabel(this))
+    , m_dayLabel(new ElidedLabel(this))
 {
     setAttribute(Qt::WA_MouseTracking);
     setProperty(NavigationName::PressedProperty, false);
