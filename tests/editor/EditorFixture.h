@@ -10,6 +10,8 @@
 #include "workspace/ZvScheduleTabWidget.h"
 
 #include "ZvChannel.h"
+#include "ZvConfig.h"
+#include "ZvEditorConfig.h"
 
 #include <QAction>
 #include <QGraphicsScene>
@@ -34,7 +36,14 @@ public:
     {
         for (int i = 0; i < channelNames.size(); ++i)
             writeChannelFile(data, channelFileName(i), {i, i, channelNames.at(i)});
+        useDefaultScheduleFirst(true);
         makeEditor();
+    }
+
+    /// Which kind of schedule the next editor starts with: the default one, or that of today.
+    void useDefaultScheduleFirst(bool first)
+    {
+        Zavo::ZvEditorConfig::getConfig()->setDefaultScheduleUsedFirst(first);
     }
 
     void makeEditor()

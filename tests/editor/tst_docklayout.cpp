@@ -274,6 +274,7 @@ void tst_DockLayout::kindOfScheduleIsRestored()
 {
     QFETCH(QVariant, stored);
     DockHost host;
+    host.useDefaultScheduleFirst(false);
     QVERIFY(host.startSettled());
     const QDate today = QDate::currentDate();
     const QString key = QLatin1String(DockSettingsKey::LastSelectedType);

@@ -54,10 +54,12 @@ void tst_MainMenu::menus()
         QVERIFY(!menu->parent());
     }
     QCOMPARE(titles, (QStringList{QStringLiteral("&File"), QStringLiteral("&Edit"),
-                                  QStringLiteral("&Channel"), QStringLiteral("&Window")}));
-    QCOMPARE(names, (QStringList{QString(), QStringLiteral("Menu_Edit"),
-                                 QStringLiteral("Menu_Channel"), QStringLiteral("Menu_Window")}));
-    QCOMPARE(host.editor->getMenu(QStringLiteral("Menu_Channel")), menus.at(2));
+                                  QStringLiteral("C&alendar"), QStringLiteral("&Channel"),
+                                  QStringLiteral("&Window")}));
+    QCOMPARE(names,
+             (QStringList{QString(), QStringLiteral("Menu_Edit"), QStringLiteral("Menu_Calendar"),
+                          QStringLiteral("Menu_Channel"), QStringLiteral("Menu_Window")}));
+    QCOMPARE(host.editor->getMenu(QStringLiteral("Menu_Channel")), menus.at(3));
 }
 
 void tst_MainMenu::rows_data()
@@ -129,14 +131,17 @@ void tst_MainMenu::orderOfRows_data()
                                  "&Save Channel,Save &All Channels,,&Close Schedule Editor,,&Quit");
     QTest::newRow("edit")
         << 1 << list("&Undo,&Redo,,&Cut,&Copy,&Paste,&Delete,,Select &All,Deselect A&ll");
-    QTest::newRow("channel") << 2
+    QTest::newRow("calendar") << 2
+                              << list("Move to &Today,,Select &Week,Select &Month,Clear "
+                                      "&Selections,,&First Day of Week,Show Week &Number");
+    QTest::newRow("channel") << 3
                              << list("&Upload...,&Output Channel Data...,,S&how Upload "
                                      "Log...,Open Upload Log &Folder...,,&New Schedule,&Delete "
                                      "Schedule...,,&Rename Channel,Chan&ge Channel Order...,&Add "
                                      "Channel...,D&elete Channel...,,Delete All Channels and "
                                      "&Settings...,,Show Channel &Information...,Channel "
                                      "Configura&tion...");
-    QTest::newRow("window") << 3
+    QTest::newRow("window") << 4
                             << list("&Switch Schedule,Schedule &List,&Choose Stage,&Assigned Item "
                                     "Property,,To &Default Position");
 }
@@ -161,7 +166,8 @@ void tst_MainMenu::actionsHaveTheirMenusAsParents()
     for (QMenu *menu : menus) {
         const QList<QAction *> actions = menu->actions();
         for (const QAction *action : actions)
-            QCOMPARE(action->parent(), static_cast<QObject *>(menu));
+            QCOMPARE(action->menu() ? action->menu()->parent() : action->parent(),
+                     static_cast<QObject *>(menu));
     }
 }
 
@@ -259,13 +265,17 @@ void tst_MainMenu::helpMenu()
 void tst_MainMenu::calendarMenu()
 {
     EditorFixture host;
-    const QPointer<QMenu> calendar = new QMenu;
-    calendar->setObjectName(QStringLiteral("Menu_Calendar"));
-    host.editor->setCalendarMenu(calendar);
+    const QPointer<QMenu> calendar = host.editor->getMenu(QStringLiteral("Menu_Calendar"));
     host.editor->setCalendarMenu(calendar);
     QCOMPARE(host.editor->menu().indexOf(calendar), 2);
     QCOMPARE(host.editor->menu().size(), 5);
     QCOMPARE(host.editor->takeCalendarMenu(), calendar.data());
+    QCOMPARE(host.editor->menu().size(), 4);
+    QVERIFY(!host.editor->takeCalendarMenu());
+    // The host's own now, and so it stays when the docks go.
+    host.editor->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(calendar);
     host.editor->setCalendarMenu(calendar);
     host.window.reset();
     QVERIFY(!calendar);

@@ -24,7 +24,8 @@ public:
     {
         data.copyFrom(QStringLiteral(ZAVO_EXAMPLE_DATA));
         // The examples' dates pass, but no test is to find them removed for that.
-        data.write(QStringLiteral("config.ini"), "[General]\nRemovingDuration=36500\n");
+        data.write(QStringLiteral("config.ini"),
+                   "[General]\nDefaultScheduleUsedFirst=true\nRemovingDuration=36500\n");
         ZvEditorConfig::reload();
     }
 

@@ -64,7 +64,7 @@ void tst_ZvScheduleEditor::construction()
     QCOMPARE(host.editor->objectName(), QStringLiteral("ScheduleEditor"));
     QCOMPARE(host.editor->parent(), static_cast<QObject *>(host.window.get()));
     QVERIFY(!host.window->centralWidget());
-    QCOMPARE(host.editor->menu().size(), 4);
+    QCOMPARE(host.editor->menu().size(), 5);
 }
 
 void tst_ZvScheduleEditor::nullWindow()
@@ -76,7 +76,7 @@ void tst_ZvScheduleEditor::nullWindow()
     QVERIFY(editor.hasError(&message));
     QCOMPARE(message, QStringLiteral("MainWindow does not exist."));
     QVERIFY(editor.hasError(nullptr));
-    QCOMPARE(editor.menu().size(), 4);
+    QCOMPARE(editor.menu().size(), 5);
     QSignalSpy closed(&editor, SIGNAL(closed()));
     editor.close();
     QCOMPARE(closed.count(), 1);

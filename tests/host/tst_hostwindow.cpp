@@ -57,6 +57,8 @@ void tst_HostWindow::init()
 {
     m_folder = std::make_unique<TemporaryDataFolder>();
     m_folder->writeStage(QStringLiteral("a.xml"));
+    // A schedule that exists on every day, and so takes what is dropped.
+    m_folder->write(QStringLiteral("config.ini"), "[General]\nDefaultScheduleUsedFirst=true\n");
     m_window = std::make_unique<HostWindow>();
 }
 

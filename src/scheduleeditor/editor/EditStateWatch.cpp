@@ -24,16 +24,23 @@ EditStateWatch::EditStateWatch(ZvScheduleMainWidget *widget, QObject *parent)
     const char *const causes[] = {
         SIGNAL(currentChannelChanged(const ZvChannel*)),
         SIGNAL(currentScheduleInfoChanged(ZvScheduleBasicInfo)),
+        SIGNAL(scheduleCreated(QList<int>,ZvScheduleBasicInfo)),
+        SIGNAL(scheduleRemoved(QList<ZvScheduleBasicInfo>,ZvScheduleBasicInfo)),
         SIGNAL(scheduleStageCountChanged(ZvScheduleBasicInfo,int)),
         SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)),
         SIGNAL(timeTableTimeItemsMoved(QList<ZvTimeTableTimeItem*>,ZvScheduleWorkingArea*)),
     };
     // clang-format on
     for (const char *cause : causes)
-        connect(widget, cause, &m_rest, SLOT(start()));
-    connect(widget->undoGroup(), SIGNAL(canUndoChanged(bool)), &m_rest, SLOT(start()));
-    connect(widget->undoGroup(), SIGNAL(canRedoChanged(bool)), &m_rest, SLOT(start()));
-    connect(QGuiApplication::clipboard(), SIGNAL(dataChanged()), &m_rest, SLOT(start()));
+        watch(widget, cause);
+    watch(widget->undoGroup(), SIGNAL(canUndoChanged(bool)));
+    watch(widget->undoGroup(), SIGNAL(canRedoChanged(bool)));
+    watch(QGuiApplication::clipboard(), SIGNAL(dataChanged()));
+}
+
+void EditStateWatch::watch(const QObject *sender, const char *signal)
+{
+    connect(sender, signal, &m_rest, SLOT(start()));
 }
 
 } // namespace Zavo

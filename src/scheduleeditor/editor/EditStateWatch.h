@@ -16,6 +16,9 @@ class EditStateWatch final : public QObject
 public:
     EditStateWatch(ZvScheduleMainWidget *widget, QObject *parent);
 
+    /// Counts @p signal of @p sender, as SIGNAL() gives it, as a change too.
+    void watch(const QObject *sender, const char *signal);
+
 Q_SIGNALS:
     /// Once after a burst of changes, when it has come to rest.
     void changed();

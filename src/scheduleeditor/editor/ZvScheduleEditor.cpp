@@ -2,12 +2,12 @@
 
 #include "domain/ActionLookup.h"
 #include "domain/ActionNames.h"
-#include "domain/ZvScheduleBasicInfo.h"
 #include "editor/ActionRegistry.h"
 #include "editor/EditActionState.h"
 #include "editor/EditStateWatch.h"
 #include "editor/MainMenu.h"
 #include "editor/ScheduleDocks.h"
+#include "navigation/ZvScheduleSwitcherWidget.h"
 #include "timetable/ZvScheduleWorkingArea.h"
 #include "workspace/SavePrompt.h"
 #include "workspace/ZvScheduleMainWidget.h"
@@ -30,7 +30,9 @@ namespace Zavo {
 namespace {
 
 const QLatin1String EditorName("ScheduleEditor");
-constexpr int CreateTabsDelay = 1; // ms
+constexpr int CreateTabsDelay = 1;      // ms
+constexpr int FirstDisplayDelay = 100;  // ms
+constexpr int ChannelDisplayDelay = 16; // ms
 
 } // namespace
 
@@ -42,6 +44,9 @@ ZvScheduleEditor::ZvScheduleEditor(QMainWindow *window)
 {
     setObjectName(EditorName);
     setup();
+    if (m_switcherWidget)
+        QTimer::singleShot(FirstDisplayDelay, m_switcherWidget,
+                           SLOT(updateExecutedShceudleDisplaying()));
 }
 
 // Widgets that were never closed go before the menus whose actions they show.
@@ -87,8 +92,8 @@ void ZvScheduleEditor::setupMainWidget()
 void ZvScheduleEditor::connectMainWidget()
 {
     ZvScheduleMainWidget *widget = m_mainWidget;
-    auto *editState = new EditStateWatch(widget, this);
-    connect(editState, SIGNAL(changed()), this, SLOT(onMenuEditAboutToShow()));
+    m_editState = new EditStateWatch(widget, this);
+    connect(m_editState, SIGNAL(changed()), this, SLOT(onMenuEditAboutToShow()));
     // clang-format off
     connect(m_createTabsTimer, SIGNAL(timeout()), widget, SLOT(createTabs()));
     connect(widget, SIGNAL(requestClose()), this, SLOT(close()), Qt::QueuedConnection);
@@ -96,8 +101,6 @@ void ZvScheduleEditor::connectMainWidget()
             this, SLOT(startScheduleValidator(QList<ZvChannel*>)), Qt::QueuedConnection);
     connect(widget, SIGNAL(graphicsScenePurged(QGraphicsScene*)),
             this, SLOT(onGraphicsScenePurged(QGraphicsScene*)));
-    connect(widget, SIGNAL(requestCurrentScheduleType(ZvScheduleBasicInfo*)),
-            this, SLOT(answerCurrentScheduleType(ZvScheduleBasicInfo*)), Qt::DirectConnection);
     connect(widget, SIGNAL(activated(QWidget*)), this, SLOT(setActivatedWidget(QWidget*)));
     connect(widget, SIGNAL(requestIsActivatedWidget(const QWidget*,bool*)),
             this, SLOT(isActivatedWidgetRequested(const QWidget*,bool*)), Qt::DirectConnection);
@@ -246,6 +249,10 @@ void ZvScheduleEditor::onCurrentChannelChanged(const ZvChannel *channel)
         action->setEnabled(channel->index() >= 1);
     if (QAction *action = getAction(QLatin1String(ActionName::ChangeChannelOrder)))
         action->setEnabled(channel->index() != 0);
+    // The switcher hears of the channel after this, and has to show its marks before.
+    if (m_switcherWidget)
+        QTimer::singleShot(ChannelDisplayDelay, m_switcherWidget,
+                           SLOT(updateExecutedShceudleDisplaying()));
 }
 
 void ZvScheduleEditor::onMenuEditAboutToShow()
@@ -440,12 +447,6 @@ void ZvScheduleEditor::onGraphicsScenePurged(QGraphicsScene *scene)
 void ZvScheduleEditor::startScheduleValidator(const QList<ZvChannel *> &channelList)
 {
     qDebug() << "startScheduleValidator called:" << channelList.size();
-}
-
-void ZvScheduleEditor::answerCurrentScheduleType(ZvScheduleBasicInfo *info) const
-{
-    if (info)
-        *info = ZvScheduleBasicInfo(ZvSchedule::Default);
 }
 
 } // namespace Zavo

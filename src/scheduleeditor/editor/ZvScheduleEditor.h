@@ -21,11 +21,12 @@ class QTimer;
 namespace Zavo {
 
 class ActionRegistry;
+class EditStateWatch;
 class ScheduleDocks;
 class ZvChannel;
-class ZvScheduleBasicInfo;
 class ZvScheduleMainWidget;
 class ZvScheduleStageChooserWidget;
+class ZvScheduleSwitcherWidget;
 
 /// The schedule editor as a host sees it. It fills a window of the host with its widgets, hands out
 /// menus to install, and asks by signals for whatever lies outside of it.
@@ -185,7 +186,6 @@ private Q_SLOTS:
     void setVisibleItemProperty(bool visible);
     void onGraphicsScenePurged(QGraphicsScene *scene);
     void startScheduleValidator(const QList<ZvChannel *> &channelList);
-    void answerCurrentScheduleType(ZvScheduleBasicInfo *info) const;
 
 private:
     bool setup();
@@ -207,7 +207,9 @@ private:
     QString m_errorText;
     QPointer<ZvScheduleMainWidget> m_mainWidget;
     QPointer<ZvScheduleStageChooserWidget> m_stageChooser;
+    QPointer<ZvScheduleSwitcherWidget> m_switcherWidget;
     QPointer<QWidget> m_activatedWidget;
+    EditStateWatch *m_editState = nullptr;
     QTimer *m_createTabsTimer = nullptr;
     bool m_saveOnClose = true;
     bool m_closed = false;

@@ -2,8 +2,10 @@
 
 #include "domain/ActionNames.h"
 #include "editor/DockNames.h"
+#include "editor/NavigationWiring.h"
 #include "editor/ScheduleDocks.h"
 #include "editor/StageWiring.h"
+#include "navigation/ZvScheduleSwitcherWidget.h"
 #include "stages/ZvScheduleStageChooserWidget.h"
 #include "workspace/ZvScheduleMainWidget.h"
 
@@ -32,7 +34,8 @@ constexpr int PreviewSizeDelay = 1; // ms, for the layout of the window to settl
 // connected right after the frame.
 void ZvScheduleEditor::setupDocks()
 {
-    m_docks->create(ScheduleDocks::SwitchSchedule, this);
+    QDockWidget *switching = m_docks->create(ScheduleDocks::SwitchSchedule, this);
+    m_switcherWidget = fillSwitchDock(switching, this, m_mainWidget, m_editState);
     QDockWidget *stages = m_docks->create(ScheduleDocks::ChooseStage, this);
     m_stageChooser = fillStageDock(stages, m_mainWidget);
     m_docks->create(ScheduleDocks::ItemProperty, this);
@@ -95,6 +98,9 @@ void ZvScheduleEditor::storeAllWidgetGeometry()
     if (m_stageChooser)
         ZvEditorUserConfig::setValue(QLatin1String(DockSettingsKey::StagePreviewVisible),
                                      m_stageChooser->isPreviewVisible());
+    if (m_switcherWidget)
+        ZvEditorUserConfig::setValue(QLatin1String(DockSettingsKey::LastSelectedType),
+                                     m_switcherWidget->currentScheduleType());
     ZvEditorUserConfig::sync();
 }
 
