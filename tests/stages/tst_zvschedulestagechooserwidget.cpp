@@ -27,6 +27,8 @@ using ZavoTest::TemporaryDataFolder;
 
 namespace {
 
+constexpr int patienceMs = 20000; // for a disk that others keep busy
+
 const QString a = QStringLiteral("a.xml");
 const QString b = QStringLiteral("b.xml");
 const QString c = QStringLiteral("c.xml");
@@ -198,7 +200,7 @@ void tst_ZvScheduleStageChooserWidget::listsStageFilesOnly()
                              "sub/g.xml", "folder.xml/h.xml", ".hidden.xml", "_d_.xml"})
         m_folder->write(QStringLiteral("stage/") + QLatin1String(name), content);
     const QStringList expected{QStringLiteral("_d_.xml"), a, b, c, QStringLiteral("d.zstg")};
-    QTRY_COMPARE(names().size(), expected.size());
+    QTRY_COMPARE_WITH_TIMEOUT(names().size(), expected.size(), patienceMs);
     QStringList sorted = names();
     sorted.sort();
     QCOMPARE(sorted, expected);
@@ -253,7 +255,7 @@ void tst_ZvScheduleStageChooserWidget::theOnlyStageIsShownWhenAllAreSelected()
 {
     QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("stage/b.xml"))));
     QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("stage/c.xml"))));
-    QTRY_COMPARE(names(), QStringList(a));
+    QTRY_COMPARE_WITH_TIMEOUT(names(), QStringList(a), patienceMs);
     QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(shown(), a);
 }
@@ -270,7 +272,7 @@ void tst_ZvScheduleStageChooserWidget::unreadableStageIsNoPreview()
 {
     QFETCH(QByteArray, content);
     m_folder->write(QStringLiteral("stage/bad.xml"), content);
-    QTRY_COMPARE(names().size(), 4);
+    QTRY_COMPARE_WITH_TIMEOUT(names().size(), 4, patienceMs);
     click(a);
     click(QStringLiteral("bad.xml"));
     QVERIFY(preview()->stage().isEmpty());
@@ -287,7 +289,7 @@ void tst_ZvScheduleStageChooserWidget::previewGoesWithItsFile()
     click(b);
     QCOMPARE(shown(), b);
     QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("stage/b.xml"))));
-    QTRY_VERIFY(preview()->stage().isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(preview()->stage().isEmpty(), patienceMs);
     QVERIFY(!list()->selectionModel()->hasSelection());
 }
 
@@ -474,12 +476,12 @@ void tst_ZvScheduleStageChooserWidget::menuClosesWhenItsStageGoes()
         wasOpen = menu()->isVisible();
         QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("stage/b.xml"))));
     });
-    QTimer::singleShot(4000, menu(), SLOT(close()));
+    QTimer::singleShot(patienceMs, menu(), SLOT(close()));
     QElapsedTimer timer;
     timer.start();
     Q_EMIT list()->customContextMenuRequested(list()->visualRect(stage(b)).center());
     QVERIFY(wasOpen);
-    QVERIFY(timer.elapsed() < 4000);
+    QVERIFY(timer.elapsed() < patienceMs);
     QCOMPARE(m_log->count(QStringLiteral("requestSetToDefaultStage")), 0);
 }
 
