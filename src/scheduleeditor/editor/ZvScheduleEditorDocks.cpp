@@ -2,6 +2,7 @@
 
 #include "domain/ActionNames.h"
 #include "editor/DockNames.h"
+#include "editor/ItemPropertyWiring.h"
 #include "editor/NavigationWiring.h"
 #include "editor/ScheduleDocks.h"
 #include "editor/StageWiring.h"
@@ -38,7 +39,7 @@ void ZvScheduleEditor::setupDocks()
     m_switcherWidget = fillSwitchDock(switching, this, m_mainWidget, m_editState);
     QDockWidget *stages = m_docks->create(ScheduleDocks::ChooseStage, this);
     m_stageChooser = fillStageDock(stages, m_mainWidget);
-    m_docks->create(ScheduleDocks::ItemProperty, this);
+    fillItemPropertyDock(m_docks->create(ScheduleDocks::ItemProperty, this), m_mainWidget);
     m_docks->create(ScheduleDocks::ScheduleList, this);
 }
 
