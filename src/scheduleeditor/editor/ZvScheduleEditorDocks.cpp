@@ -5,6 +5,7 @@
 #include "editor/ItemPropertyWiring.h"
 #include "editor/NavigationWiring.h"
 #include "editor/ScheduleDocks.h"
+#include "editor/ScheduleListWiring.h"
 #include "editor/StageWiring.h"
 #include "navigation/ZvScheduleSwitcherWidget.h"
 #include "stages/ZvScheduleStageChooserWidget.h"
@@ -40,7 +41,8 @@ void ZvScheduleEditor::setupDocks()
     QDockWidget *stages = m_docks->create(ScheduleDocks::ChooseStage, this);
     m_stageChooser = fillStageDock(stages, m_mainWidget);
     fillItemPropertyDock(m_docks->create(ScheduleDocks::ItemProperty, this), m_mainWidget);
-    m_docks->create(ScheduleDocks::ScheduleList, this);
+    QDockWidget *list = m_docks->create(ScheduleDocks::ScheduleList, this);
+    fillScheduleListDock(list, this, m_mainWidget, m_switcherWidget, m_editState);
 }
 
 void ZvScheduleEditor::attatchWidgetsToMainWindow()
