@@ -32,6 +32,7 @@ private Q_SLOTS:
     void restart();
     void restartInAnotherRatio();
     void sizesSurvive();
+    void longTitlesTakeNoRoom();
     void damagedSettings_data();
     void damagedSettings();
     void settingsThatAreNoFile();
@@ -147,6 +148,19 @@ void tst_DockLayout::sizesSurvive()
     QCOMPARE(host.item()->height(), 260);
     QCOMPARE(host.item()->minimumHeight(), 150);
     QVERIFY(host.switcher()->maximumWidth() > 10000);
+}
+
+void tst_DockLayout::longTitlesTakeNoRoom()
+{
+    DockHost host;
+    host.restart(QSize(1280, 860));
+    QVERIFY(host.startSettled());
+    for (const QDate &date : {QDate(2031, 9, 24), QDate(2031, 11, 26)}) {
+        host.main()->switchToDateSchedule(date);
+        host.settle();
+        QCOMPARE(host.switcher()->width(), 330);
+        QCOMPARE(host.chooser()->width(), 300);
+    }
 }
 
 void tst_DockLayout::damagedSettings_data()

@@ -1,6 +1,6 @@
 #include "navigation/ZvTodayWidget.h"
 
-#include "navigation/ElidedLabel.h"
+#include "domain/ElidedLabel.h"
 #include "navigation/LookState.h"
 #include "navigation/NavigationNames.h"
 

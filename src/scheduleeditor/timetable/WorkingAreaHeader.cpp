@@ -1,5 +1,6 @@
 #include "timetable/WorkingAreaHeader.h"
 
+#include "domain/ElidedLabel.h"
 #include "domain/ToolButtonStyle.h"
 #include "stages/ZvScheduleDefaultStageWidget.h"
 
@@ -18,12 +19,12 @@ constexpr int gapPx = 9;
 
 WorkingAreaHeader::WorkingAreaHeader(QWidget *parent)
     : QWidget(parent)
-    , m_titleLabel(new QLabel(tr("Schedule of ..."), this))
+    , m_titleLabel(new ElidedLabel(this))
     , m_createWidget(newCreateWidget())
     , m_defaultStageWidget(new ZvScheduleDefaultStageWidget(this))
 {
     setObjectName(QStringLiteral("HeaderWidget"));
-    m_titleLabel->setTextFormat(Qt::PlainText);
+    m_titleLabel->setText(tr("Schedule of ..."));
     showTitleFont(false);
     m_defaultStageWidget->setEnabled(false);
 

@@ -1,4 +1,4 @@
-#include "navigation/ElidedLabel.h"
+#include "domain/ElidedLabel.h"
 
 #include <QPainter>
 #include <QStyle>
