@@ -1,5 +1,6 @@
 #include "timetable/ZvTimeTableTimeItem.h"
 
+#include "timetable/BandMemory.h"
 #include "timetable/CosmeticOutline.h"
 #include "timetable/TimeTableLabelPool.h"
 #include "timetable/ZvTimeTableTimeItemLabel.h"
@@ -8,8 +9,6 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 
-#include <vector>
-
 namespace Zavo {
 
 namespace {
@@ -17,20 +16,7 @@ namespace {
 constexpr double selectedStackingOffset = 10000.0;
 constexpr double handleShare = 0.5; // of the band's height
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr std::size_t keptBlocks = 0; // memory that is used again hides the use of a dead band
-#else
-constexpr std::size_t keptBlocks = 4320; // bands of the densest table that is edited in practice
-#endif
-
 const QColor stageBackground(255, 255, 255, 128);
-
-/// Memory of bands that went, the last one first. Lives as long as the program: so may scenes.
-std::vector<void *> &freeBlocks()
-{
-    static auto *const blocks = new std::vector<void *>;
-    return *blocks;
-}
 
 } // namespace
 
@@ -75,21 +61,12 @@ ZvTimeTableTimeItem::~ZvTimeTableTimeItem()
 
 void *ZvTimeTableTimeItem::operator new(std::size_t size)
 {
-    std::vector<void *> &blocks = freeBlocks();
-    if (blocks.empty())
-        return ::operator new(size);
-    void *memory = blocks.back();
-    blocks.pop_back();
-    return memory;
+    return BandMemory::take(size);
 }
 
 void ZvTimeTableTimeItem::operator delete(void *memory, std::size_t)
 {
-    std::vector<void *> &blocks = freeBlocks();
-    if (memory && blocks.size() < keptBlocks)
-        blocks.push_back(memory);
-    else
-        ::operator delete(memory);
+    BandMemory::give(memory);
 }
 
 ZvTimeTableTimeItemLabel *ZvTimeTableTimeItem::adoptLabel(ZvTimeTableTimeItemLabel *label,

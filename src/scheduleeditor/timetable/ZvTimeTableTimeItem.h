@@ -31,9 +31,7 @@ public:
     /// Takes itself out of the chain; the items behind it are renumbered.
     ~ZvTimeTableTimeItem() override;
 
-    /// The bands of a table take the memory of those that were there before them, in their order.
-    /// The scene keeps its items sorted by their address, so bands that lie as they are ordered
-    /// leave it from the end of its list.
+    /// See BandMemory.
     static void *operator new(std::size_t size);
     static void operator delete(void *memory, std::size_t size);
 
