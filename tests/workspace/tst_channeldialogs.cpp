@@ -132,6 +132,7 @@ private Q_SLOTS:
     void namesAreText();
     void moves_data();
     void moves();
+    void movesPastAHole();
     void movedIndicesAreSaved();
     void moveTellsOfTheTab();
     void undoAfterAMove();
@@ -272,6 +273,24 @@ void tst_ChannelDialogs::moves()
     moveTo(main, from);
     QCOMPARE(main.tabTexts(), Names);
     QCOMPARE(indices(main), QStringLiteral("0 1 2 3"));
+}
+
+// The list shows the indices as they are, with the hole that a deleted channel has left.
+void tst_ChannelDialogs::movesPastAHole()
+{
+    MainWidgetFixture main;
+    main.createTabs(Names);
+    main.tabs()->setCurrentIndex(1);
+    {
+        MessageBoxAnswer answer;
+        answer.expect(QMessageBox::Yes);
+        main.widget->removeCurrentChannel();
+    }
+    QCOMPARE(indices(main), QStringLiteral("0 2 3"));
+    moveTo(main, 3);
+    QCOMPARE(main.tabTexts(), (QStringList{Names[0], Names[3], Names[2]}));
+    QCOMPARE(main.tabs()->currentIndex(), 2);
+    QCOMPARE(indices(main), QStringLiteral("0 1 2"));
 }
 
 void tst_ChannelDialogs::movedIndicesAreSaved()

@@ -216,14 +216,17 @@ void ZvScheduleMainWidget::removeCurrentChannel()
     removeTab(area);
 }
 
-// The docks let go of the page's bands when another tab becomes current; without one they are told.
+// The docks let go of the page and its channel when another tab becomes current; without one they
+// are told.
 void ZvScheduleMainWidget::removeTab(ZvScheduleWorkingArea *area)
 {
     undoGroup()->removeStack(area->undoStack());
     m_tabWidget->removeTab(m_tabWidget->indexOf(area));
     forgetArea(area);
-    if (m_tabWidget->count() == 0)
+    if (m_tabWidget->count() == 0) {
         Q_EMIT timeTableTimeItemHasNotSelected(area);
+        Q_EMIT currentChannelChanged(nullptr);
+    }
     delete area;
 }
 

@@ -92,7 +92,7 @@ Q_SIGNALS:
     /// createTabs() has returned.
     void tabsCreated(const QList<ZvChannel *> &channelList);
 
-    /// Another tab is current, whose channel is @p channel.
+    /// Another tab is current, whose channel is @p channel; null if the last tab has gone.
     void currentChannelChanged(const ZvChannel *channel);
 
 private Q_SLOTS:
@@ -110,7 +110,8 @@ private:
     void removeTab(ZvScheduleWorkingArea *area);
     void forgetArea(const ZvScheduleWorkingArea *area);
     QList<ZvChannel *> channelsToChangePlacesWith() const;
-    void moveChannelTo(int from, int to);
+    int placeOfIndex(int channelIndex, int placeLeftOut) const;
+    void moveTabTo(int from, int to);
     QStringList namesOfOtherTabs(int tabIndex) const;
     void refuseName(const QString &text);
     void showCritical(const QString &title, const QString &text);

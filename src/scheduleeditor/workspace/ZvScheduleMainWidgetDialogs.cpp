@@ -25,8 +25,12 @@ void ZvScheduleMainWidget::showChangeChannelOrderDialog()
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     const int target = dialog ? dialog->selectedIndex() : -1;
     delete dialog;
-    if (isAccepted && area && target > 0)
-        moveChannelTo(area->channel()->index(), target);
+    if (!isAccepted || !area || target <= 0)
+        return;
+    const int from = m_tabWidget->indexOf(area);
+    const int to = placeOfIndex(target, from);
+    if (to > 0)
+        moveTabTo(from, to);
 }
 
 QList<ZvChannel *> ZvScheduleMainWidget::channelsToChangePlacesWith() const
@@ -40,7 +44,18 @@ QList<ZvChannel *> ZvScheduleMainWidget::channelsToChangePlacesWith() const
     return channels;
 }
 
-void ZvScheduleMainWidget::moveChannelTo(int from, int to)
+// A channel that was deleted has left a hole in the indices, so the places are those of the tabs.
+int ZvScheduleMainWidget::placeOfIndex(int channelIndex, int placeLeftOut) const
+{
+    for (int i = 1; i < m_tabWidget->count(); ++i) {
+        const auto *area = qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget->widget(i));
+        if (area && i != placeLeftOut && area->channel()->index() == channelIndex)
+            return i;
+    }
+    return -1;
+}
+
+void ZvScheduleMainWidget::moveTabTo(int from, int to)
 {
     m_tabWidget->moveTab(from, to);
     m_tabWidget->onTabMoved(from, to);
