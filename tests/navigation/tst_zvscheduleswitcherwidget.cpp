@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QScreen>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -66,6 +67,7 @@ private Q_SLOTS:
     void activatesItself();
     void leavingEndsTheHighlight();
     void frameKnowsItsObjects();
+    void frameShowsThatItIsSelected();
     void defaultFrameShowsItsMenu();
     void calendarMenuIsAnotherOne();
 };
@@ -420,6 +422,32 @@ void tst_ZvScheduleSwitcherWidget::frameKnowsItsObjects()
     QTest::mousePress(&frame, Qt::RightButton);
     QCOMPARE(log.names(), QStringList(QStringLiteral("clicked")));
     QCOMPARE(log.arguments(0).first().value<QObject *>(), &frame);
+}
+
+void tst_ZvScheduleSwitcherWidget::frameShowsThatItIsSelected()
+{
+    SwitcherFixture host;
+    QVERIFY(QTest::qWaitForWindowExposed(host.switcher.get()));
+    const auto *frame = host.frame(NavigationName::DefaultFrame);
+    // What the screen shows, not what a fresh painting would show.
+    const auto pixel = [&host, frame](int x, int y) {
+        const QPoint place = frame->mapTo(host.switcher.get(), QPoint(x, y));
+        return host.switcher->screen()
+            ->grabWindow(host.switcher->winId())
+            .toImage()
+            .pixelColor(place);
+    };
+    const int middle = frame->height() / 2;
+    const QColor resting = pixel(5, middle);
+    QCOMPARE(pixel(frame->width() / 2, 0), QColor(64, 64, 64));
+    host.switcher->setSelection(SelectionType::DefaultSchedule);
+    QTRY_COMPARE(pixel(5, middle), QColor(230, 230, 230));
+    for (int x = 0; x < 3; ++x)
+        QCOMPARE(pixel(x, middle), QColor(51, 51, 204));
+    QCOMPARE(pixel(frame->width() / 2, 0), QColor(128, 128, 128));
+    host.switcher->setSelection(SelectionType::Week);
+    QTRY_COMPARE(pixel(5, middle), resting);
+    QCOMPARE(pixel(1, middle), resting);
 }
 
 void tst_ZvScheduleSwitcherWidget::defaultFrameShowsItsMenu()
