@@ -483,6 +483,9 @@ void tst_ZvScheduleListWidget::followsTheRatio()
     fixture.showChannel();
     fixture.check({1});
     const QPointer<QTreeView> before = fixture.view();
+    fixture.list.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fixture.list));
+    before->setFocus();
     const QStandardItemModel *model = fixture.model();
     QCOMPARE(before->iconSize(), QSize(16, 16));
     SignalLog log;
@@ -502,6 +505,7 @@ void tst_ZvScheduleListWidget::followsTheRatio()
     QCOMPARE(fixture.checkedRows(), QList<int>{1});
     QCOMPARE(fixture.selectedRows(), QList<int>());
     QCOMPARE(fixture.list.layout()->count(), 2);
+    QVERIFY(fixture.view()->hasFocus());
 
     // The new view is wired like the old one.
     QTRY_VERIFY(fixture.view()->isVisible());

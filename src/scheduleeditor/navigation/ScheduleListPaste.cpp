@@ -2,20 +2,9 @@
 
 #include "domain/ChannelSchedules.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace Zavo {
 
 namespace {
-
-QList<ZvSchedule> withoutEmpty(const QList<ZvSchedule> &schedules)
-{
-    QList<ZvSchedule> kept;
-    std::copy_if(schedules.cbegin(), schedules.cend(), std::back_inserter(kept),
-                 [](const ZvSchedule &schedule) { return !schedule.isEmpty(); });
-    return kept;
-}
 
 /// A copy under another name; fields that the name does not use stay as they came.
 ZvSchedule renamed(ZvSchedule schedule, const ZvScheduleBasicInfo &name)
@@ -30,24 +19,24 @@ ZvSchedule renamed(ZvSchedule schedule, const ZvScheduleBasicInfo &name)
 
 } // namespace
 
-ScheduleListPaste planScheduleListPaste(const QList<ZvSchedule> &schedules,
+SchedulePastePlan planScheduleListPaste(const QList<ZvSchedule> &schedules,
                                         const ZvScheduleBasicInfo &destination, bool repeat,
                                         const ZvChannel *channel)
 {
-    ScheduleListPaste paste;
-    const QList<ZvSchedule> kept = withoutEmpty(schedules);
+    SchedulePastePlan plan;
+    const QList<ZvSchedule> kept = schedulesWithContent(schedules);
     if (kept.isEmpty() || destination.type() == ZvSchedule::NoType)
-        return paste;
+        return plan;
     const bool repeats = repeat && destination.type() == ZvSchedule::Date;
     const int count = repeats ? kept.size() : 1;
     for (int i = 0; i < count; ++i) {
         ZvScheduleBasicInfo place = destination;
         place.setDate(destination.date().addDays(i));
         if (ChannelSchedules::contains(channel, place))
-            paste.removeList.append(place);
-        paste.insertList.append(renamed(kept.at(i), place));
+            plan.removed.append(place);
+        plan.inserted.append(renamed(kept.at(i), place));
     }
-    return paste;
+    return plan;
 }
 
 } // namespace Zavo

@@ -14,11 +14,13 @@ ScheduleListView::ScheduleListView(QWidget *parent)
 }
 
 // A tree looks for the place of a changed row among all rows. Here no row changes its height or has
-// children, so that the rows on show are painted again and that is all.
+// children, so that the rows on show are painted again and that is all: the tree's own way is
+// passed over.
 void ScheduleListView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                    const QVector<int> &roles)
 {
     const int lastColumn = model()->columnCount() - 1;
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QAbstractItemView::dataChanged(topLeft.siblingAtColumn(0),
                                    bottomRight.siblingAtColumn(lastColumn), roles);
 }

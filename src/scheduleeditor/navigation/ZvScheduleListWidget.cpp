@@ -63,10 +63,10 @@ ZvScheduleListWidget::ZvScheduleListWidget(QWidget *parent)
     createToolMenu();
     createMenuButton();
     createTreeView(ZvSystemInfo::getDpiRatio(this));
-    connect(this, SIGNAL(dpiRatioChanged(double)), this,
-                         SLOT(createTreeView(double)), Qt::QueuedConnection);
-    connect(this, SIGNAL(dpiRatioChanged(double)), this,
-                         SLOT(scaleMenuButton(double)), Qt::QueuedConnection);
+    // clang-format off
+    connect(this, SIGNAL(dpiRatioChanged(double)), this, SLOT(createTreeView(double)), Qt::QueuedConnection);
+    connect(this, SIGNAL(dpiRatioChanged(double)), this, SLOT(scaleMenuButton(double)), Qt::QueuedConnection);
+    // clang-format on
 }
 
 ZvScheduleListWidget::~ZvScheduleListWidget() = default;
@@ -97,9 +97,11 @@ void ZvScheduleListWidget::createMenuButton()
 
 void ZvScheduleListWidget::createTreeView(double dpiRatio)
 {
+    const bool hadFocus = m_treeView && m_treeView->hasFocus();
     delete m_treeView;
     m_treeView = new ScheduleListView(this);
-    m_treeView->setIconSize(QSize(iconSizePx, iconSizePx) * dpiRatio);
+    const int iconSize = static_cast<int>(iconSizePx * dpiRatio);
+    m_treeView->setIconSize({iconSize, iconSize});
     m_treeView->installEventFilter(this);
     m_treeView->viewport()->installEventFilter(this);
     m_treeView->header()->viewport()->installEventFilter(this);
@@ -107,11 +109,16 @@ void ZvScheduleListWidget::createTreeView(double dpiRatio)
     m_treeView->setContextMenuPolicy(Qt::CustomContextMenu);
     m_treeView->setStyleSheet(QStringLiteral("font-size: 9.0pt;"));
     layout()->addWidget(m_treeView);
-    connect(m_treeView, SIGNAL(customContextMenuRequested(QPoint)), this,
-                               SLOT(onContextMenuRequested(QPoint)));
-    connect(m_treeView->selectionModel(),
-            SIGNAL(selectionChanged(QItemSelection,QItemSelection)), this,
-                   SLOT(onItemSelectionChanged(QItemSelection,QItemSelection)));
+    // clang-format off
+    connect(m_treeView, SIGNAL(customContextMenuRequested(QPoint)),
+            this, SLOT(onContextMenuRequested(QPoint)));
+    connect(m_treeView->selectionModel(), SIGNAL(selectionChanged(QItemSelection,QItemSelection)),
+            this, SLOT(onItemSelectionChanged(QItemSelection,QItemSelection)));
+    // clang-format on
+    if (hadFocus) {
+        m_treeView->show();
+        m_treeView->setFocus();
+    }
 }
 
 void ZvScheduleListWidget::scaleMenuButton(double dpiRatio)
@@ -411,14 +418,14 @@ bool ZvScheduleListWidget::pasteSchedules(const QList<ZvSchedule> &list)
     delete dialog;
     if (!accepted)
         return false;
-    const ScheduleListPaste paste =
+    const SchedulePastePlan plan =
         planScheduleListPaste(list, destination, repeat, m_currentChannel);
-    if (!paste.removeList.isEmpty() &&
-        ZvScheduleCommon::confirmScheduleReplace(paste.removeList, this, false) != QMessageBox::Yes)
+    if (!plan.removed.isEmpty() &&
+        ZvScheduleCommon::confirmScheduleReplace(plan.removed, this, false) != QMessageBox::Yes)
         return false;
-    if (paste.removeList.isEmpty() && paste.insertList.isEmpty())
+    if (plan.isEmpty())
         return false;
-    Q_EMIT requestRemoveAndInsertSchedule(paste.removeList, paste.insertList);
+    Q_EMIT requestRemoveAndInsertSchedule(plan.removed, plan.inserted);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "navigation/NavigationNames.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -44,6 +45,11 @@ constexpr ModeTexts textsOfModes[] = {
      QT_TRANSLATE_NOOP("Zavo::ZvScheduleSpecifyScheduleDialog",
                        "Specify the schedule you want to jump.")},
 };
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("Zavo::ZvScheduleSpecifyScheduleDialog", text);
+}
 
 int valueOf(const QRadioButton *button)
 {
@@ -254,8 +260,8 @@ void ZvScheduleSpecifyScheduleDialog::setMode(Mode mode)
 void ZvScheduleSpecifyScheduleDialog::showTexts()
 {
     const ModeTexts &texts = textsOfModes[m_mode];
-    setWindowTitle(tr(texts.title));
-    m_descriptionLabel->setText(tr(texts.description));
+    setWindowTitle(translated(texts.title));
+    m_descriptionLabel->setText(translated(texts.description));
 }
 
 // The default schedule always exists, so that it cannot be created.
