@@ -24,21 +24,22 @@ constexpr int ItemPropertyMinimum = 150; // px
 constexpr int ButtonSize = 16;           // times the ratio
 constexpr int FloatButtonDistance = 3;   // px
 
-const QLatin1String FirstStyle("QDockWidget::title {height: 12pt;}"
-                               "QDockWidget {titlebar-close-icon: url(:/images/close_black.svg);}");
 const QLatin1String
-    ScaledStyle("QDockWidget {icon-size: %1px; titlebar-close-icon: url(:/images/close_black.svg); "
-                "titlebar-normal-icon: url(:/images/window_normal_black.svg);}"
-                "QDockWidget::float-button {right: %2px;}");
+    FirstDockStyle("QDockWidget::title {height: 12pt;}"
+                   "QDockWidget {titlebar-close-icon: url(:/images/close_black.svg);}");
+const QLatin1String ScaledDockStyle(
+    "QDockWidget {icon-size: %1px; titlebar-close-icon: url(:/images/close_black.svg); "
+    "titlebar-normal-icon: url(:/images/window_normal_black.svg);}"
+    "QDockWidget::float-button {right: %2px;}");
 
-struct Frame
+struct DockFrame
 {
     const char *name;
     const char *title;
     bool translated;
 };
 
-constexpr Frame Frames[] = {
+constexpr DockFrame DockFrames[] = {
     {DockName::SwitchSchedule, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "Switch Schedule"),
      true},
     {DockName::ScheduleList, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "Schedule List"), true},
@@ -46,7 +47,7 @@ constexpr Frame Frames[] = {
     {DockName::ItemProperty, "Asssigned Item Property", false},
 };
 
-QString titleOf(const Frame &frame)
+QString titleOf(const DockFrame &frame)
 {
     return frame.translated ? QCoreApplication::translate(DockContext, frame.title)
                             : QLatin1String(frame.title);
@@ -54,7 +55,7 @@ QString titleOf(const Frame &frame)
 
 // Docks that were just placed have no sizes yet, and no event gives them theirs as long as the
 // window is not shown.
-void layOut(const QWidget *window)
+void layOutDocks(const QWidget *window)
 {
     if (window && window->layout())
         window->layout()->activate();
@@ -80,7 +81,7 @@ void shrinkPlace(QDockWidget *dock, QMainWindow *window, int width, int height)
 {
     if (width > 0 && dock->width() != width) {
         window->resizeDocks({dock}, {width}, Qt::Horizontal);
-        layOut(window);
+        layOutDocks(window);
         // The window reckons with the tab bar beside the dock.
         const int corrected = 2 * width - dock->width();
         if (corrected > 0 && corrected != width)
@@ -90,7 +91,7 @@ void shrinkPlace(QDockWidget *dock, QMainWindow *window, int width, int height)
     const int rest = neighbour ? neighbour->height() + dock->height() - height : 0;
     if (rest > 0)
         window->resizeDocks({neighbour, dock}, {rest, height}, Qt::Vertical);
-    layOut(window);
+    layOutDocks(window);
 }
 
 } // namespace
@@ -108,11 +109,11 @@ ScheduleDocks::~ScheduleDocks()
 
 QDockWidget *ScheduleDocks::create(Which which, QObject *filter)
 {
-    const Frame &frame = Frames[which];
+    const DockFrame &frame = DockFrames[which];
     auto *dock = new QDockWidget(titleOf(frame));
     dock->setObjectName(QLatin1String(frame.name));
     dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-    dock->setStyleSheet(FirstStyle);
+    dock->setStyleSheet(FirstDockStyle);
     dock->installEventFilter(filter);
     m_docks[which] = dock;
     return dock;
@@ -198,7 +199,7 @@ void ScheduleDocks::changeDockWidgetSize(QDockWidget *dock, int width, int heigh
 {
     if (!dock)
         return;
-    layOut(dock->parentWidget());
+    layOutDocks(dock->parentWidget());
     const QSize minimum = dock->minimumSize();
     const QSize maximum = dock->maximumSize();
     if (width > 0 && dock->width() >= width)
@@ -215,7 +216,7 @@ void ScheduleDocks::changeDockWidgetSize(QDockWidget *dock, int width, int heigh
         return;
     dock->setMinimumSize(minimum);
     dock->setMaximumSize(maximum);
-    layOut(dock->parentWidget());
+    layOutDocks(dock->parentWidget());
     auto *window = qobject_cast<QMainWindow *>(dock->parentWidget());
     if (window && !dock->isFloating() && !dock->isHidden())
         shrinkPlace(dock, window, width, height);
@@ -254,7 +255,7 @@ void ScheduleDocks::giveUp()
 void ScheduleDocks::scaleButtons(QDockWidget *dock)
 {
     const int size = int(ZvSystemInfo::getDpiRatio(dock) * ButtonSize);
-    const QString style = QString(ScaledStyle).arg(size).arg(size + FloatButtonDistance);
+    const QString style = QString(ScaledDockStyle).arg(size).arg(size + FloatButtonDistance);
     if (dock->styleSheet() != style)
         dock->setStyleSheet(style);
 }

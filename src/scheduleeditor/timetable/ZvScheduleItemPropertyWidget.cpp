@@ -17,13 +17,17 @@ namespace Zavo {
 
 namespace {
 
-constexpr int IconSize = 16;         // px at ratio 1
-constexpr int MinimumLabelSize = 24; // px
-constexpr int Margin = 6;            // px
-constexpr int Spacing = 4;           // px
+constexpr int PanelIconSize = 16;         // px at ratio 1
+constexpr int MinimumStageLabelSize = 24; // px
+constexpr int PanelMargin = 6;            // px
+constexpr int PanelSpacing = 4;           // px
 constexpr int MillisecondsPerSecond = 1000;
 constexpr int TruncationTolerance = 5; // ms
-const QTime DayStart(0, 0);
+
+QTime dayStart()
+{
+    return {0, 0};
+}
 
 QTime timeAt(int milliseconds)
 {
@@ -41,13 +45,13 @@ QTime shownTime(QTime time)
 }
 
 // Opened first, since a minimum is held below the maximum of before.
-void setRange(ZvTimeSpinWidget *editor, QTime minimum, QTime maximum)
+void setExactRange(ZvTimeSpinWidget *editor, QTime minimum, QTime maximum)
 {
-    editor->setTimeRange(DayStart, TimeAxis::endOfDay());
+    editor->setTimeRange(dayStart(), TimeAxis::endOfDay());
     editor->setTimeRange(minimum, maximum);
 }
 
-QString stageNames(const QList<ZvTimeTableTimeItem *> &items)
+QString joinedStageNames(const QList<ZvTimeTableTimeItem *> &items)
 {
     QStringList names;
     names.reserve(items.size());
@@ -61,7 +65,7 @@ QLabel *newStageLabel()
 {
     auto *label = new QLabel;
     label->setTextFormat(Qt::PlainText);
-    label->setMinimumSize(MinimumLabelSize, MinimumLabelSize);
+    label->setMinimumSize(MinimumStageLabelSize, MinimumStageLabelSize);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     label->setStyleSheet(QStringLiteral("border: 1px solid gray;margin-left: 5px;"));
     return label;
@@ -88,8 +92,8 @@ ZvScheduleItemPropertyWidget::ZvScheduleItemPropertyWidget(QWidget *parent)
 
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(Margin, Margin, Margin, Margin);
-    layout->setSpacing(Spacing);
+    layout->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, PanelMargin);
+    layout->setSpacing(PanelSpacing);
     layout->addLayout(topRow);
     layout->addWidget(m_stageLabel);
     layout->addWidget(createTimes());
@@ -156,7 +160,7 @@ bool ZvScheduleItemPropertyWidget::event(QEvent *event)
 
 void ZvScheduleItemPropertyWidget::scaleButtons(double dpiRatio)
 {
-    const int size = int(IconSize * dpiRatio);
+    const int size = int(PanelIconSize * dpiRatio);
     for (QToolButton *button : {m_previousButton, m_nextButton})
         button->setIconSize(QSize(size, size));
 }
@@ -193,7 +197,7 @@ void ZvScheduleItemPropertyWidget::onTimeTableTimeItemsMoved(
     m_timeItem = items.first();
     m_startTimeWidget->setEnabled(items.size() == 1);
     m_endTimeWidget->setEnabled(items.size() == 1);
-    m_stageLabel->setText(stageNames(items));
+    m_stageLabel->setText(joinedStageNames(items));
     if (items.size() == 1)
         showItem(items.first());
     else
@@ -206,9 +210,9 @@ void ZvScheduleItemPropertyWidget::clear()
     m_stageLabel->clear();
     for (ZvTimeSpinWidget *editor : {m_startTimeWidget, m_endTimeWidget}) {
         editor->setEnabled(false);
-        editor->setTimeRange(DayStart, TimeAxis::endOfDay());
+        editor->setTimeRange(dayStart(), TimeAxis::endOfDay());
     }
-    m_startTimeWidget->setTime(DayStart);
+    m_startTimeWidget->setTime(dayStart());
     m_endTimeWidget->setTime(TimeAxis::endOfDay());
     m_timeItem.clear();
 }
@@ -223,9 +227,10 @@ void ZvScheduleItemPropertyWidget::showItem(ZvTimeTableTimeItem *item)
     const QTime upper = item->maximumEndTime();
     const QTime lastStart = timeAt(qMax(upper.msecsSinceStartOfDay() - shortest, 0));
     const QTime firstEnd = timeAt(lower.msecsSinceStartOfDay() + shortest);
-    setRange(m_startTimeWidget, lower, qMax(lastStart, start));
+    setExactRange(m_startTimeWidget, lower, qMax(lastStart, start));
     m_startTimeWidget->setTime(start);
-    setRange(m_endTimeWidget, firstEnd.isValid() ? qMin(firstEnd, end) : end, qMax(upper, end));
+    setExactRange(m_endTimeWidget, firstEnd.isValid() ? qMin(firstEnd, end) : end,
+                  qMax(upper, end));
     m_endTimeWidget->setTime(end);
 }
 
@@ -233,9 +238,9 @@ void ZvScheduleItemPropertyWidget::showItems(const QList<ZvTimeTableTimeItem *> 
 {
     const QTime start = shownTime(items.first()->startTime());
     const QTime end = shownTime(items.last()->endTime());
-    setRange(m_startTimeWidget, start, start);
+    setExactRange(m_startTimeWidget, start, start);
     m_startTimeWidget->setTime(start);
-    setRange(m_endTimeWidget, end, end);
+    setExactRange(m_endTimeWidget, end, end);
     m_endTimeWidget->setTime(end);
 }
 

@@ -12,7 +12,7 @@ namespace Zavo {
 
 namespace {
 
-constexpr int Spacing = 4; // px
+constexpr int BoxSpacing = 4; // px
 
 QTime validTime(QTime time)
 {
@@ -47,7 +47,7 @@ ZvTimeSpinWidget::ZvTimeSpinWidget(QWidget *parent)
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Spacing);
+    layout->setSpacing(BoxSpacing);
     m_hourBox = addBox(layout, tr("h"));
     m_minuteBox = addBox(layout, tr("m"));
     m_secondBox = addBox(layout, tr("s"));
