@@ -15,6 +15,7 @@
 #include "navigation/ZvTodayWidget.h"
 
 #include <QDockWidget>
+#include <QRandomGenerator>
 #include <QStandardItem>
 #include <QTreeView>
 
@@ -73,6 +74,10 @@ private Q_SLOTS:
     void tabs();
     void list();
     void commands();
+    void undoByItsKeys();
+    void channels();
+    void anyWayAfterAnyOther_data();
+    void anyWayAfterAnyOther();
 
 private:
     using Step = std::function<void()>;
@@ -252,6 +257,12 @@ void tst_ScheduleInterplay::addListSteps()
 void tst_ScheduleInterplay::addCommands()
 {
     const auto trigger = [this](const char *name) { m_editor->action(name)->trigger(); };
+    m_steps[QStringLiteral("new channel")] = [trigger] { trigger(ActionName::CreateChannel); };
+    m_steps[QStringLiteral("delete channel")] = [trigger] {
+        MessageBoxAnswer answer;
+        answer.expect(QMessageBox::Yes);
+        trigger(ActionName::DeleteChannel);
+    };
     m_steps[QStringLiteral("create")] = [trigger] { trigger(ActionName::CreateSchedule); };
     m_steps[QStringLiteral("delete")] = [trigger] {
         MessageBoxAnswer answer;
@@ -404,6 +415,69 @@ void tst_ScheduleInterplay::commands()
     expect("host Monday", "day 1, row 1, shown 1");
     expect("host date", "date 1, row 1, shown 1");
     expect("host date", "");
+}
+
+// The calendar reads the keys, not where a selection comes from.
+void tst_ScheduleInterplay::undoByItsKeys()
+{
+    expect("empty date", "date 1, shown 1");
+    expect("create", "asked by list 1, created 1, row 2, shown 1");
+    expect("Ctrl other date", "date 1, row 1, shown 1");
+    m_mouse->holdKeys(Qt::ControlModifier);
+    expect("undo", "asked by list 1, date 1, removed 1, row 1, shown 2");
+    QCOMPARE(m_calendar->selectedDate(), unscheduled);
+    expect("redo", "asked by list 1, created 1, row 2, shown 1");
+    m_mouse->releaseKeys();
+    expect("date", "date 1, row 1, shown 1");
+    m_mouse->holdKeys(Qt::ControlModifier);
+    expect("undo", "asked by list 1, date 1, removed 1, row 1, shown 2");
+    m_mouse->releaseKeys();
+}
+
+void tst_ScheduleInterplay::channels()
+{
+    expect("Monday", "day 1, row 1, shown 1");
+    expect("new channel", "asked 1, asked by list 1, channel 1, listed 1, shown 1");
+    expect("date", "date 1, shown 1");
+    expect("create", "asked by list 1, created 1, row 2, shown 1");
+    expect("delete channel", "asked 1, asked by list 1, channel 1, listed 1, shown 1");
+    expect("next tab", "asked 1, asked by list 1, channel 1, listed 1, row 1, shown 1");
+}
+
+void tst_ScheduleInterplay::anyWayAfterAnyOther_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (const quint32 seed : {1U, 2U, 3U})
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void tst_ScheduleInterplay::anyWayAfterAnyOther()
+{
+    QFETCH(quint32, seed);
+    constexpr int stepCount = 60;
+    const char *const ways[] = {
+        "date",   "empty date", "Ctrl other date", "Ctrl date",  "Shift empty date",
+        "Monday", "Tuesday",    "calendar frame",  "week frame", "default frame",
+        "today",  "next tab",   "default row",     "create",     "undo",
+        "redo",   "edit",       "host Monday",     "host date",  "undo",
+    };
+    QRandomGenerator random(seed);
+    QStringList walk;
+    for (int i = 0; i < stepCount; ++i) {
+        const char *way = ways[random.bounded(static_cast<int>(std::size(ways)))];
+        walk.append(QLatin1String(way));
+        if (walk.last().contains(QLatin1String("date"))) // the page of other dates may be shown
+            m_calendar->setCurrentPage(scheduled.year(), scheduled.month());
+        roundsOf(way);
+        const QByteArray walked = walk.join(QStringLiteral(", ")).toUtf8();
+        const int requests = m_log->count(QStringLiteral("date")) +
+                             m_log->count(QStringLiteral("day")) +
+                             m_log->count(QStringLiteral("default"));
+        QVERIFY2(requests <= 1, walked.constData());
+        checkAgreement(walked.constData());
+        if (QTest::currentTestFailed())
+            return;
+    }
 }
 
 QTEST_MAIN(tst_ScheduleInterplay)

@@ -272,6 +272,9 @@ void ZvScheduleSwitcherWidget::changeCurrentScheduleSelection(const ZvScheduleBa
         break;
     case ZvSchedule::Date:
         m_calendarWidget->setSelectedDate(info.date());
+        // With Ctrl held, as for an undo by its keys, that takes a selected date out.
+        if (m_calendarWidget->selectedDate() != info.date())
+            m_calendarWidget->setSelectedDate(info.date());
         setSelection(SelectionType::Calendar);
         break;
     default:
