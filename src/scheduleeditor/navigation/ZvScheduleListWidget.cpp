@@ -200,6 +200,7 @@ void ZvScheduleListWidget::fitColumns()
     m_treeView->resizeColumnToContents(name);
     m_treeView->setColumnWidth(name, m_treeView->columnWidth(name) + nameColumnSlackPx);
     m_treeView->resizeColumnToContents(ScheduleListModel::TypeColumn);
+    m_treeView->resizeColumnToContents(ScheduleListModel::StageCountColumn);
 }
 
 void ZvScheduleListWidget::onScheduleCreated(const QList<int> &, const ZvScheduleBasicInfo &curInfo)

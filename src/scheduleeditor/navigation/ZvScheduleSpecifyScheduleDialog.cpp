@@ -61,9 +61,9 @@ QRadioButton *newButton(const QString &text, const QString &name, int value, QGr
     auto *button = new QRadioButton(text, group);
     button->setObjectName(name);
     button->setProperty(NavigationName::ValueProperty, value);
-    // No blank of the row takes clicks that do nothing.
-    button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     group->layout()->addWidget(button);
+    // No wider than its text: a button takes no clicks beside it.
+    group->layout()->setAlignment(button, Qt::AlignLeft);
     return button;
 }
 
