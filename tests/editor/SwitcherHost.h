@@ -78,4 +78,27 @@ private:
     }
 };
 
+inline const Zavo::ZvScheduleBasicInfo defaultInfo{Zavo::ZvSchedule::Default};
+inline const Zavo::ZvScheduleBasicInfo mondayInfo{Zavo::Weekday::Monday};
+inline const Zavo::ZvScheduleBasicInfo fridayInfo{Zavo::Weekday::Friday};
+
+/// The dates with a schedule, and the day between them, which has none.
+inline Zavo::ZvScheduleBasicInfo firstInfo()
+{
+    return Zavo::ZvScheduleBasicInfo(SwitcherHost::firstDate());
+}
+inline Zavo::ZvScheduleBasicInfo betweenInfo()
+{
+    return Zavo::ZvScheduleBasicInfo(SwitcherHost::firstDate().addDays(1));
+}
+inline Zavo::ZvScheduleBasicInfo secondInfo()
+{
+    return Zavo::ZvScheduleBasicInfo(SwitcherHost::secondDate());
+}
+/// From a week behind the first date on there are no schedules.
+inline Zavo::ZvScheduleBasicInfo laterInfo(int days)
+{
+    return Zavo::ZvScheduleBasicInfo(SwitcherHost::firstDate().addDays(7 + days));
+}
+
 } // namespace ZavoTest

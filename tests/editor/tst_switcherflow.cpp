@@ -6,36 +6,13 @@
 #include "services/ZvScheduleClipboard.h"
 
 #include <QClipboard>
-#include <QUndoGroup>
-#include <QUndoStack>
 
 using namespace Zavo;
 using namespace ZavoTest;
 
 namespace {
 
-const ZvScheduleBasicInfo defaultInfo(ZvSchedule::Default);
-const ZvScheduleBasicInfo monday(Weekday::Monday);
-const ZvScheduleBasicInfo friday(Weekday::Friday);
 const QDate today = QDate::currentDate();
-
-ZvScheduleBasicInfo first()
-{
-    return ZvScheduleBasicInfo(SwitcherHost::firstDate());
-}
-ZvScheduleBasicInfo between()
-{
-    return ZvScheduleBasicInfo(SwitcherHost::firstDate().addDays(1));
-}
-ZvScheduleBasicInfo second()
-{
-    return ZvScheduleBasicInfo(SwitcherHost::secondDate());
-}
-// A week and two days without schedules.
-ZvScheduleBasicInfo later(int days)
-{
-    return ZvScheduleBasicInfo(SwitcherHost::firstDate().addDays(7 + days));
-}
 
 /// Counts what goes round between the switcher and the central widget.
 class Rounds final
@@ -69,8 +46,8 @@ private:
 
 } // namespace
 
-/// The switcher at work in the editor: what it is told and asks for, the edit commands by their
-/// actions and the clipboard, and what the editor makes of its dock.
+/// The switcher at work in the editor: what it is told and asks for, and what the editor makes of
+/// its dock.
 class tst_SwitcherFlow : public QObject
 {
     Q_OBJECT
@@ -92,14 +69,6 @@ private Q_SLOTS:
     void dockActivates();
     void editActionsFollowTheSelection();
 
-    void copiesWhatIsOnTheTable();
-    void pastesDates();
-    void pastesOverTheDefaultSchedule();
-    void cutsWithoutAQuestion();
-    void deletesAfterAQuestion();
-    void cutsNothingOfTheDefaultSchedule();
-    void pastesBetweenTabs();
-
     void calendarMenuActs();
     void kindIsStored_data();
     void kindIsStored();
@@ -118,14 +87,14 @@ void tst_SwitcherFlow::tabsShowTheChosenKind()
     host.tabs()->setCurrentIndex(1);
     QCOMPARE(host.shown(), defaultInfo);
     host.click(Qt::Monday);
-    QCOMPARE(host.shown(), monday);
+    QCOMPARE(host.shown(), mondayInfo);
     host.tabs()->setCurrentIndex(0);
-    QCOMPARE(host.shown(), monday);
+    QCOMPARE(host.shown(), mondayInfo);
     QCOMPARE(host.area(0)->defaultStageName(), QStringLiteral("monday"));
     host.selectDates(SwitcherHost::firstDate(), SwitcherHost::secondDate());
-    QCOMPARE(host.shown(), second());
+    QCOMPARE(host.shown(), secondInfo());
     host.tabs()->setCurrentIndex(2);
-    QCOMPARE(host.shown(), second());
+    QCOMPARE(host.shown(), secondInfo());
     QCOMPARE(host.parts().calendar()->selectedDates().size(), 3);
     QCOMPARE(host.parts().selectedFrames(), QStringLiteral("C"));
 }
@@ -181,9 +150,9 @@ void tst_SwitcherFlow::changesFromOutsideGoOneRound()
     QCOMPARE(rounds.taken(), QString());
     host.main()->switchToDefaultSchedule();
     QCOMPARE(rounds.taken(), back);
-    host.switcher()->changeCurrentScheduleSelection(friday);
+    host.switcher()->changeCurrentScheduleSelection(fridayInfo);
     QCOMPARE(rounds.taken(), QStringLiteral("request shown"));
-    QCOMPARE(host.shown(), friday);
+    QCOMPARE(host.shown(), fridayInfo);
     host.action(ActionName::CreateSchedule)->trigger();
     QCOMPARE(rounds.taken(), QStringLiteral("created shown"));
     QVERIFY(host.parts().week()->hasScheduledDay(5));
@@ -200,22 +169,22 @@ void tst_SwitcherFlow::undoGoesOneRound()
     QVERIFY(host.start());
     host.click(SwitcherHost::firstDate().addDays(1));
     host.action(ActionName::CreateSchedule)->trigger();
-    QCOMPARE(host.parts().executed(), executedDate(between().date()));
+    QCOMPARE(host.parts().executed(), executedDate(betweenInfo().date()));
     host.clickDefault();
     Rounds rounds(host);
     host.editor->action_undo();
     QCOMPARE(rounds.taken(), QStringLiteral("removed request shown shown"));
-    QCOMPARE(host.shown(), between());
+    QCOMPARE(host.shown(), betweenInfo());
     QCOMPARE(host.parts().selectedFrames(), QStringLiteral("C"));
-    QCOMPARE(host.parts().calendar()->selectedDate(), between().date());
-    QVERIFY(!host.parts().calendar()->isScheduledDate(between().date()));
-    QVERIFY(host.parts().executed() != executedDate(between().date()));
+    QCOMPARE(host.parts().calendar()->selectedDate(), betweenInfo().date());
+    QVERIFY(!host.parts().calendar()->isScheduledDate(betweenInfo().date()));
+    QVERIFY(host.parts().executed() != executedDate(betweenInfo().date()));
     host.clickDefault();
     rounds.taken();
     host.editor->action_redo();
     QCOMPARE(rounds.taken(), QStringLiteral("created request shown shown"));
-    QVERIFY(host.parts().calendar()->isScheduledDate(between().date()));
-    QCOMPARE(host.parts().executed(), executedDate(between().date()));
+    QVERIFY(host.parts().calendar()->isScheduledDate(betweenInfo().date()));
+    QCOMPARE(host.parts().executed(), executedDate(betweenInfo().date()));
 }
 
 void tst_SwitcherFlow::marksFollowTheTab()
@@ -279,8 +248,9 @@ void tst_SwitcherFlow::executedDisplayFollowsTheTab()
 {
     SwitcherHost host;
     QVERIFY(host.start());
-    const QDate date = SwitcherHost::firstDate().addDays(
-        8 - SwitcherHost::firstDate().dayOfWeek()); // the next Monday
+    // A Monday behind both dates.
+    const QDate date =
+        SwitcherHost::firstDate().addDays(15 - SwitcherHost::firstDate().dayOfWeek());
     host.click(date);
     QCOMPARE(host.parts().executed(), executedDay(date));
     host.tabs()->setCurrentIndex(1);
@@ -330,12 +300,12 @@ void tst_SwitcherFlow::editActionsFollowTheSelection()
     };
     host.clickDefault();
     QCOMPARE(enabled(), QStringLiteral("x-----"));
-    host.click(between().date());
+    host.click(betweenInfo().date());
     QCOMPARE(enabled(), QStringLiteral("------"));
     // By the menu, without a click.
     host.editor->getMenu(QLatin1String(MenuName::Calendar))->actions().at(3)->trigger();
     QTRY_COMPARE(enabled(), QStringLiteral("xxx---"));
-    host.click(between().date());
+    host.click(betweenInfo().date());
     QCOMPARE(enabled(), QStringLiteral("------"));
     // By a key.
     QTest::keyClick(CalendarMouse(host.parts().calendar()).view(), Qt::Key_Left);
@@ -350,140 +320,6 @@ void tst_SwitcherFlow::editActionsFollowTheSelection()
     QTRY_COMPARE(enabled(), QStringLiteral("---x--"));
 }
 
-// The edit commands
-
-void tst_SwitcherFlow::copiesWhatIsOnTheTable()
-{
-    SwitcherHost host;
-    QVERIFY(host.start());
-    host.clickDefault();
-    host.area(0)->setDefaultStageName(QStringLiteral("edited"));
-    host.action(ActionName::Copy)->trigger();
-    const QList<ZvSchedule> copied = ZvScheduleClipboard::readSchedulesFromClipboard();
-    QCOMPARE(copied.size(), 1);
-    QCOMPARE(copied.first().defaultStage(), QStringLiteral("edited"));
-}
-
-void tst_SwitcherFlow::pastesDates()
-{
-    SwitcherHost host;
-    QVERIFY(host.start());
-    host.selectDates(first().date(), second().date());
-    host.action(ActionName::Copy)->trigger();
-    host.selectDates(later(0).date(), later(2).date());
-    QTRY_VERIFY(host.action(ActionName::Paste)->isEnabled());
-    {
-        const MessageBoxAnswer noBox;
-        host.action(ActionName::Paste)->trigger();
-    }
-    QCOMPARE(host.stored(later(0)), QStringLiteral("first"));
-    QCOMPARE(host.stored(later(1)), QStringLiteral("-"));
-    QCOMPARE(host.stored(later(2)), QStringLiteral("second"));
-    QCOMPARE(host.parts().countText(), QStringLiteral("Schedule of days: 4 days"));
-    QCOMPARE(host.area(0)->defaultStageName(), QStringLiteral("second"));
-    host.action(ActionName::Undo)->trigger();
-    QCOMPARE(host.stored(later(0)), QStringLiteral("-"));
-    QCOMPARE(host.parts().countText(), QStringLiteral("Schedule of days: 2 days"));
-    host.action(ActionName::Redo)->trigger();
-    QCOMPARE(host.stored(later(2)), QStringLiteral("second"));
-    QCOMPARE(host.parts().countText(), QStringLiteral("Schedule of days: 4 days"));
-}
-
-void tst_SwitcherFlow::pastesOverTheDefaultSchedule()
-{
-    SwitcherHost host;
-    QVERIFY(host.start());
-    host.click(Qt::Monday);
-    host.action(ActionName::Copy)->trigger();
-    host.clickDefault();
-    QTRY_VERIFY(host.action(ActionName::Paste)->isEnabled());
-    MessageBoxAnswer answer;
-    answer.expect(QMessageBox::No);
-    host.action(ActionName::Paste)->trigger();
-    QCOMPARE(host.area(0)->defaultStageName(), QStringLiteral("default"));
-    answer.expect(QMessageBox::Yes);
-    host.action(ActionName::Paste)->trigger();
-    QCOMPARE(host.shown(), defaultInfo);
-    QCOMPARE(host.area(0)->defaultStageName(), QStringLiteral("monday"));
-    QCOMPARE(host.stored(defaultInfo), QStringLiteral("monday"));
-    QCOMPARE(host.stored(monday), QStringLiteral("monday"));
-    host.editor->action_undo();
-    QCOMPARE(host.area(0)->defaultStageName(), QStringLiteral("default"));
-}
-
-void tst_SwitcherFlow::cutsWithoutAQuestion()
-{
-    SwitcherHost host;
-    QVERIFY(host.start());
-    host.selectDates(first().date(), second().date());
-    host.area(0)->setDefaultStageName(QStringLiteral("edited"));
-    {
-        const MessageBoxAnswer noBox;
-        host.action(ActionName::Cut)->trigger();
-    }
-    QCOMPARE(host.stored(first()), QStringLiteral("-"));
-    QCOMPARE(host.stored(second()), QStringLiteral("-"));
-    QCOMPARE(host.parts().countText(), QStringLiteral("Schedule of days: None"));
-    QVERIFY(!host.area(0)->isCurrentScheduleEnabled());
-    QCOMPARE(ZvScheduleClipboard::readSchedulesFromClipboard().size(), 3);
-    host.editor->action_undo();
-    QCOMPARE(host.stored(first()), QStringLiteral("first"));
-    QCOMPARE(host.stored(second()), QStringLiteral("edited"));
-    QCOMPARE(host.parts().countText(), QStringLiteral("Schedule of days: 2 days"));
-}
-
-void tst_SwitcherFlow::deletesAfterAQuestion()
-{
-    SwitcherHost host;
-    QVERIFY(host.start());
-    host.click(Qt::Monday);
-    MessageBoxAnswer answer;
-    answer.expect(QMessageBox::No)
-        .title(QStringLiteral("Confirm Delete"))
-        .text(QStringLiteral("Are you sure you want to delete the selected schedule?"));
-    host.action(ActionName::Delete)->trigger();
-    QCOMPARE(host.stored(monday), QStringLiteral("monday"));
-    answer.expect(QMessageBox::Yes);
-    host.action(ActionName::Delete)->trigger();
-    QCOMPARE(host.stored(monday), QStringLiteral("-"));
-    QVERIFY(!host.parts().week()->hasScheduledDay(1));
-    QTRY_VERIFY(!host.action(ActionName::Delete)->isEnabled());
-    host.editor->action_undo();
-    QVERIFY(host.parts().week()->hasScheduledDay(1));
-}
-
-void tst_SwitcherFlow::cutsNothingOfTheDefaultSchedule()
-{
-    SwitcherHost host;
-    QVERIFY(host.start());
-    host.clickDefault();
-    QVERIFY(!host.action(ActionName::Cut)->isEnabled());
-    QVERIFY(!host.action(ActionName::Delete)->isEnabled());
-    const MessageBoxAnswer noBox;
-    host.editor->action_cut();
-    host.editor->action_delete();
-    QCOMPARE(host.stored(defaultInfo), QStringLiteral("default"));
-    QCOMPARE(ZvScheduleClipboard::readSchedulesFromClipboard().size(), 1);
-    QVERIFY(!host.main()->undoGroup()->canUndo());
-}
-
-void tst_SwitcherFlow::pastesBetweenTabs()
-{
-    SwitcherHost host;
-    QVERIFY(host.start());
-    host.click(first().date());
-    host.action(ActionName::Copy)->trigger();
-    host.tabs()->setCurrentIndex(2);
-    host.click(Qt::Friday);
-    QTRY_VERIFY(host.action(ActionName::Paste)->isEnabled());
-    host.action(ActionName::Paste)->trigger();
-    QCOMPARE(host.stored(friday), QStringLiteral("first"));
-    QVERIFY(host.parts().week()->hasScheduledDay(5));
-    host.tabs()->setCurrentIndex(0);
-    QCOMPARE(host.stored(friday), QStringLiteral("-"));
-    QVERIFY(!host.parts().week()->hasScheduledDay(5));
-}
-
 // The editor
 
 void tst_SwitcherFlow::calendarMenuActs()
@@ -491,7 +327,7 @@ void tst_SwitcherFlow::calendarMenuActs()
     SwitcherHost host;
     QVERIFY(host.start());
     QMenu *menu = host.editor->getMenu(QLatin1String(MenuName::Calendar));
-    host.click(first().date());
+    host.click(firstInfo().date());
     menu->actions().first()->trigger();
     QCOMPARE(host.shown(), ZvScheduleBasicInfo(today));
     // What the menu shows is brought up to date when it opens, and nothing of it edits.
