@@ -5,6 +5,7 @@
 #include "ScenePurger.h"
 #include "VersionBox.h"
 #include "ZvEditorConfig.h"
+#include "ZvSystemInfo.h"
 #include "editor/ZvScheduleEditor.h"
 
 #include <QAction>
@@ -18,6 +19,7 @@
 namespace Zavo {
 
 namespace {
+// Times the ratio of the screen, by which the docks are scaled too.
 constexpr QSize defaultSize(1280, 860);
 // What a window takes of a small screen, so that its frame fits too.
 constexpr double screenShare = 0.92;
@@ -91,7 +93,8 @@ void HostWindow::takeDefaultSize()
 {
     // Without a person there is no real screen either.
     const bool bounded = Display::isSeen() && screen();
-    resize(bounded ? defaultSize.boundedTo(screen()->availableSize() * screenShare) : defaultSize);
+    const QSize wanted = defaultSize * ZvSystemInfo::getDpiRatio(this);
+    resize(bounded ? wanted.boundedTo(screen()->availableSize() * screenShare) : wanted);
 }
 
 QMenu *HostWindow::createHelpMenu()

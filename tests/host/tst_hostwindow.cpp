@@ -4,9 +4,11 @@
 #include "MessageBoxAnswer.h"
 #include "SignalLog.h"
 #include "TemporaryDataFolder.h"
+#include "ZvSystemInfo.h"
 #include "editor/ZvScheduleEditor.h"
 
 #include <QAction>
+#include <QDockWidget>
 #include <QFile>
 #include <QGraphicsScene>
 #include <QGraphicsView>
@@ -32,6 +34,8 @@ private Q_SLOTS:
     void showsTheMenus();
     void disablesWhatItDoesNotOffer();
     void showsItsVersion();
+    void opensAsLargeAsItsScreenNeeds_data();
+    void opensAsLargeAsItsScreenNeeds();
     void startsWithATabForEachChannel();
     void closesWithoutAQuestion();
     void asksBeforeItCloses_data();
@@ -67,6 +71,7 @@ void tst_HostWindow::cleanup()
     m_window.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_folder.reset();
+    Zavo::ZvSystemInfo::setDpiRatioOverride(0.0);
 }
 
 void tst_HostWindow::start()
@@ -141,6 +146,30 @@ void tst_HostWindow::showsItsVersion()
     const QMenu *const help = m_window->editor()->getMenu(QStringLiteral("Menu_Help"));
     help->actions().constFirst()->trigger();
     QVERIFY(answer.isDone());
+}
+
+void tst_HostWindow::opensAsLargeAsItsScreenNeeds_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("1") << 1.0 << QSize(1280, 860);
+    QTest::newRow("1.5") << 1.5 << QSize(1920, 1290);
+    QTest::newRow("2") << 2.0 << QSize(2560, 1720);
+}
+
+void tst_HostWindow::opensAsLargeAsItsScreenNeeds()
+{
+    QFETCH(double, ratio);
+    m_window.reset();
+    Zavo::ZvSystemInfo::setDpiRatioOverride(ratio);
+    m_window = std::make_unique<HostWindow>();
+    QTEST(m_window->size(), "size");
+    start();
+    const auto width = [this](const char *dock) {
+        return m_window->findChild<QDockWidget *>(QLatin1String(dock))->width();
+    };
+    QCOMPARE(width("SwitchScheuleDock"), int(330 * ratio));
+    QCOMPARE(width("ChooseStageDock"), int(300 * ratio));
 }
 
 void tst_HostWindow::startsWithATabForEachChannel()
