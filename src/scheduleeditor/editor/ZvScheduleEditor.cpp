@@ -333,8 +333,6 @@ void ZvScheduleEditor::action_deselectAll()
         activated->deselectAllItems();
 }
 
-// Commands on the channels
-
 void ZvScheduleEditor::action_undo()
 {
     if (QUndoStack *stack = m_mainWidget ? m_mainWidget->undoGroup()->activeStack() : nullptr)
@@ -345,63 +343,6 @@ void ZvScheduleEditor::action_redo()
 {
     if (QUndoStack *stack = m_mainWidget ? m_mainWidget->undoGroup()->activeStack() : nullptr)
         stack->redo();
-}
-
-void ZvScheduleEditor::action_save_channel()
-{
-    if (m_mainWidget)
-        m_mainWidget->saveCurrentChannel();
-}
-
-void ZvScheduleEditor::action_save_all_channel()
-{
-    if (m_mainWidget)
-        m_mainWidget->saveAllChannel();
-}
-
-void ZvScheduleEditor::action_upload()
-{
-    showUploadManager();
-}
-
-void ZvScheduleEditor::action_output_channel_data()
-{
-    showChannelExporter();
-}
-
-void ZvScheduleEditor::action_create_schedule()
-{
-    if (m_mainWidget)
-        m_mainWidget->createScheduleByCurrentInfoWithUndo();
-}
-
-void ZvScheduleEditor::action_delete_schedule()
-{
-    if (m_mainWidget)
-        m_mainWidget->removeScheduleByCurrentInfoWithUndo();
-}
-
-void ZvScheduleEditor::action_rename_channel()
-{
-    if (m_mainWidget)
-        m_mainWidget->toEditTabName();
-}
-
-void ZvScheduleEditor::action_create_channel()
-{
-    if (m_mainWidget)
-        m_mainWidget->addNewChannel();
-}
-
-void ZvScheduleEditor::action_delete_channel()
-{
-    if (m_mainWidget)
-        m_mainWidget->removeCurrentChannel();
-}
-
-void ZvScheduleEditor::action_channel_configuration()
-{
-    showChannelConfiguration();
 }
 
 // Requests to the host

@@ -6,8 +6,67 @@
 
 #include <QMainWindow>
 
-// The commands of the channel menu that open a window of their own.
+// The commands on channels: saving them, and what the channel menu offers.
 namespace Zavo {
+
+void ZvScheduleEditor::action_save_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->saveCurrentChannel();
+}
+
+void ZvScheduleEditor::action_save_all_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->saveAllChannel();
+}
+
+void ZvScheduleEditor::action_upload()
+{
+    showUploadManager();
+}
+
+void ZvScheduleEditor::action_output_channel_data()
+{
+    showChannelExporter();
+}
+
+void ZvScheduleEditor::action_create_schedule()
+{
+    if (m_mainWidget)
+        m_mainWidget->createScheduleByCurrentInfoWithUndo();
+}
+
+void ZvScheduleEditor::action_delete_schedule()
+{
+    if (m_mainWidget)
+        m_mainWidget->removeScheduleByCurrentInfoWithUndo();
+}
+
+void ZvScheduleEditor::action_rename_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->toEditTabName();
+}
+
+void ZvScheduleEditor::action_create_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->addNewChannel();
+}
+
+void ZvScheduleEditor::action_delete_channel()
+{
+    if (m_mainWidget)
+        m_mainWidget->removeCurrentChannel();
+}
+
+void ZvScheduleEditor::action_channel_configuration()
+{
+    showChannelConfiguration();
+}
+
+// What opens a window of its own
 
 QDir ZvScheduleEditor::getUploadLogDir()
 {
