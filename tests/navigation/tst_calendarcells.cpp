@@ -281,7 +281,7 @@ void tst_CalendarCells::look()
     for (const QPoint &inner : {cell.topLeft() + QPoint(2, 2), cell.bottomRight() - QPoint(2, 2)})
         QVERIFY2(isLike(colorAt(image, inner), fill), qPrintable(colorAt(image, inner).name()));
     // The marks stay inside of their cell.
-    const QRect neighbour = m_mouse->cell(date.addDays(date.dayOfWeek() < 7 ? 7 : -7));
+    const QRect neighbour = m_mouse->cell(date.addDays(date.day() > 15 ? -7 : 7));
     QVERIFY(!isLike(colorAt(image, neighbour.topLeft()), scheduleFrame));
 }
 
