@@ -47,6 +47,11 @@ QList<ZvSchedule> ChannelSchedules::findAll(const ZvChannel *channel,
     return found;
 }
 
+int ChannelSchedules::stageCount(const ZvSchedule &schedule)
+{
+    return schedule.timeList().size() + (schedule.defaultStage().isEmpty() ? 0 : 1);
+}
+
 void ChannelSchedules::removeBefore(ZvChannel *channel, const QDate &limit)
 {
     if (!channel)

@@ -158,7 +158,7 @@ constexpr MenuRow Menus[] = {
     menuOf(MenuName::Window, QT_TRANSLATE_NOOP("Zavo::ZvScheduleEditor", "&Window"), WindowRows),
 };
 
-QString translated(const char *text)
+QString menuText(const char *text)
 {
     return QCoreApplication::translate(Context, text);
 }
@@ -177,7 +177,7 @@ void addRow(QMenu *menu, const ActionRow &row, ActionRegistry *registry, QObject
         menu->addSeparator();
         return;
     }
-    QAction *action = menu->addAction(translated(row.text));
+    QAction *action = menu->addAction(menuText(row.text));
     action->setObjectName(QLatin1String(row.name));
     registry->addAction(action);
     if (row.icon)
@@ -194,7 +194,7 @@ void addRow(QMenu *menu, const ActionRow &row, ActionRegistry *registry, QObject
 void createMainMenu(ActionRegistry *registry, QObject *receiver)
 {
     for (const MenuRow &menuRow : Menus) {
-        auto *menu = new QMenu(translated(menuRow.title));
+        auto *menu = new QMenu(menuText(menuRow.title));
         menu->setObjectName(QLatin1String(menuRow.name));
         for (int i = 0; i < menuRow.rowCount; ++i)
             addRow(menu, menuRow.rows[i], registry, receiver);

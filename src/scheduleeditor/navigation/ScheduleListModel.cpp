@@ -1,6 +1,7 @@
 #include "navigation/ScheduleListModel.h"
 
 #include "ZvSchedule.h"
+#include "domain/ChannelSchedules.h"
 #include "domain/ScheduleText.h"
 
 #include <QCoreApplication>
@@ -62,7 +63,7 @@ QVariant valueOf(const ZvSchedule &schedule)
     }
 }
 
-QString translated(const char *text)
+QString listText(const char *text)
 {
     return QCoreApplication::translate("Zavo::ZvScheduleListWidget", text);
 }
@@ -76,11 +77,11 @@ QString typeText(const QVariant &value)
 {
     switch (infoOf(value).type()) {
     case ZvSchedule::Default:
-        return translated(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "default"));
+        return listText(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "default"));
     case ZvSchedule::Date:
-        return translated(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "date"));
+        return listText(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "date"));
     case ZvSchedule::DayOfWeek:
-        return translated(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "day of week"));
+        return listText(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "day of week"));
     default:
         return {};
     }
@@ -89,12 +90,6 @@ QString typeText(const QVariant &value)
 QString numberText(const QVariant &value)
 {
     return QString::number(value.toInt());
-}
-
-int stageCountOf(const ZvSchedule &schedule)
-{
-    const QList<ZvTime> &times = schedule.timeList();
-    return times.size() + (schedule.defaultStage().isEmpty() ? 0 : 1);
 }
 
 } // namespace
@@ -166,9 +161,9 @@ void ScheduleListModel::setSchedules(const QList<ZvSchedule> &schedules)
     for (const ZvSchedule &schedule : schedules)
         appendSchedule(schedule);
     setHorizontalHeaderLabels(
-        {translated(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "Schedule")),
-         translated(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "Type")),
-         translated(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "Stages"))});
+        {listText(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "Schedule")),
+         listText(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "Type")),
+         listText(QT_TRANSLATE_NOOP("Zavo::ZvScheduleListWidget", "Stages"))});
 }
 
 void ScheduleListModel::appendSchedule(const ZvSchedule &schedule)
@@ -181,8 +176,8 @@ void ScheduleListModel::appendSchedule(const ZvSchedule &schedule)
         m_rows.insert(info, rowCount());
     auto *name = new TextItem(nameText, value);
     name->setCheckable(true);
-    appendRow(
-        {name, new TextItem(typeText, value), new TextItem(numberText, stageCountOf(schedule))});
+    appendRow({name, new TextItem(typeText, value),
+               new TextItem(numberText, ChannelSchedules::stageCount(schedule))});
 }
 
 void ScheduleListModel::setStageCount(const ZvScheduleBasicInfo &info, int stageCount)

@@ -29,7 +29,7 @@ namespace Zavo {
 namespace {
 
 constexpr int iconSizePx = 16;
-constexpr int menuButtonMinimumWidthPx = 30;
+constexpr int ListMenuButtonWidthPx = 30;
 constexpr int nameColumnSlackPx = 16;
 
 constexpr int firstRow = 0;
@@ -87,7 +87,7 @@ void ZvScheduleListWidget::createMenuButton()
 {
     m_menuButton->setObjectName(QLatin1String(NavigationName::CalendarMenuButton));
     m_menuButton->setIcon(QIcon(QStringLiteral(":/images/menu_simple.svg")));
-    m_menuButton->setMinimumWidth(menuButtonMinimumWidthPx);
+    m_menuButton->setMinimumWidth(ListMenuButtonWidthPx);
     m_menuButton->setAutoRaise(true);
     m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setStyleSheet(QLatin1String(ToolButtonStyle));

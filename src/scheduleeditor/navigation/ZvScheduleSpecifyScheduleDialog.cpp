@@ -23,7 +23,7 @@ namespace Zavo {
 namespace {
 
 constexpr int minimumWidthPx = 360;
-constexpr int gapPx = 9;
+constexpr int DialogGapPx = 9;
 constexpr int shrinkDelay = 100; // ms
 
 struct ModeTexts
@@ -46,7 +46,7 @@ constexpr ModeTexts textsOfModes[] = {
                        "Specify the schedule you want to jump.")},
 };
 
-QString translated(const char *text)
+QString dialogText(const char *text)
 {
     return QCoreApplication::translate("Zavo::ZvScheduleSpecifyScheduleDialog", text);
 }
@@ -77,7 +77,7 @@ QGroupBox *newGroupBox(const QString &title, QLayout *layout)
 
 QSpacerItem *newGap(QSizePolicy::Policy horizontal, QSizePolicy::Policy vertical)
 {
-    return new QSpacerItem(gapPx, gapPx, horizontal, vertical);
+    return new QSpacerItem(DialogGapPx, DialogGapPx, horizontal, vertical);
 }
 
 QList<QRadioButton *> buttonsOf(const QGroupBox *group, const char *namePrefix)
@@ -260,8 +260,8 @@ void ZvScheduleSpecifyScheduleDialog::setMode(Mode mode)
 void ZvScheduleSpecifyScheduleDialog::showTexts()
 {
     const ModeTexts &texts = textsOfModes[m_mode];
-    setWindowTitle(translated(texts.title));
-    m_descriptionLabel->setText(translated(texts.description));
+    setWindowTitle(dialogText(texts.title));
+    m_descriptionLabel->setText(dialogText(texts.description));
 }
 
 // The default schedule always exists, so that it cannot be created.

@@ -54,11 +54,6 @@ QString wordOf(SelectionType selection)
     return {};
 }
 
-int stageCountOf(const ZvSchedule &schedule)
-{
-    return schedule.timeList().size() + (schedule.defaultStage().isEmpty() ? 0 : 1);
-}
-
 } // namespace
 
 ZvScheduleSwitcherWidget::ZvScheduleSwitcherWidget(QWidget *parent)
@@ -339,7 +334,7 @@ void ZvScheduleSwitcherWidget::setCurrentChannel(const ZvChannel *currentChannel
         for (const ZvSchedule &schedule : schedules) {
             markSchedule(schedule);
             if (schedule.type() == ZvSchedule::Default)
-                m_defaultWidget->setStageCount(stageCountOf(schedule));
+                m_defaultWidget->setStageCount(ChannelSchedules::stageCount(schedule));
         }
         m_calendarWidget->update();
         m_weekWidget->update();

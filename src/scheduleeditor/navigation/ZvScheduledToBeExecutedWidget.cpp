@@ -12,7 +12,7 @@ namespace Zavo {
 
 namespace {
 
-constexpr int SpacerPx = 16;
+constexpr int ExecutedSpacerPx = 16;
 
 } // namespace
 
@@ -45,8 +45,8 @@ QWidget *ZvScheduledToBeExecutedWidget::createNameWidget()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_captionLabel);
     layout->addWidget(m_scheduleLabel);
-    layout->addItem(
-        new QSpacerItem(SpacerPx, SpacerPx, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    layout->addItem(new QSpacerItem(ExecutedSpacerPx, ExecutedSpacerPx, QSizePolicy::Expanding,
+                                    QSizePolicy::Minimum));
     return widget;
 }
 

@@ -13,7 +13,7 @@ namespace Zavo {
 namespace {
 
 constexpr int createButtonHeightPx = 24;
-constexpr int gapPx = 9;
+constexpr int headerGapPx = 9;
 
 } // namespace
 
@@ -33,7 +33,7 @@ WorkingAreaHeader::WorkingAreaHeader(QWidget *parent)
     layout->addWidget(m_titleLabel);
     layout->addWidget(m_createWidget);
     layout->addSpacerItem(
-        new QSpacerItem(gapPx, gapPx, QSizePolicy::Expanding, QSizePolicy::Minimum));
+        new QSpacerItem(headerGapPx, headerGapPx, QSizePolicy::Expanding, QSizePolicy::Minimum));
     layout->addWidget(m_defaultStageWidget);
 }
 

@@ -20,7 +20,7 @@ namespace Zavo {
 
 namespace {
 
-QPen cosmeticPen(const QColor &color)
+QPen stripPen(const QColor &color)
 {
     QPen pen(color);
     pen.setCosmetic(true);
@@ -57,7 +57,7 @@ ZvTimeTableTimeZoneItem::ZvTimeTableTimeZoneItem(QGraphicsItem *parent)
 {
     setFlag(ItemIsSelectable, false);
     setAcceptDrops(true);
-    m_dropLine->setPen(cosmeticPen(Qt::green));
+    m_dropLine->setPen(stripPen(Qt::green));
     m_dropLine->setVisible(false);
 }
 
@@ -357,9 +357,9 @@ void ZvTimeTableTimeZoneItem::paint(QPainter *painter, const QStyleOptionGraphic
 {
     const QRectF strip = innerRect();
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(cosmeticPen(painter->pen().color()));
+    painter->setPen(stripPen(painter->pen().color()));
     painter->drawRect(strip);
-    painter->setPen(cosmeticPen(Qt::blue));
+    painter->setPen(stripPen(Qt::blue));
     painter->drawLine(strip.topLeft(), strip.topRight());
     painter->drawLine(strip.bottomLeft(), strip.bottomRight());
 }
