@@ -3,6 +3,7 @@
 #include "CalendarMouse.h"
 #include "SignalLog.h"
 
+#include <QContextMenuEvent>
 #include <QTextCharFormat>
 #include <QToolButton>
 #include <QWheelEvent>
@@ -90,6 +91,7 @@ private Q_SLOTS:
     void movesToTodayFromAnotherPage();
 
     void pagingKeepsTheSelection();
+    void standsItsDeathUnderItsMenu();
 
 private:
     void clickAll(const QString &clicks);
@@ -388,6 +390,9 @@ void tst_ZvCalendarWidget::keys()
     QTest::keyClick(view, Qt::Key_Right);
     QCOMPARE(m_calendar->selectedDate(), day(21));
     QCOMPARE(m_calendar->selectedDates(), QList<QDate>{day(21)});
+    QTest::keyClick(view, Qt::Key_Right, Qt::ControlModifier);
+    QCOMPARE(m_calendar->selectedDates(), days(21, 22));
+    QTest::keyClick(view, Qt::Key_Left);
     QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
     QCOMPARE(m_calendar->selectedDates(), days(21, 28));
     QTest::keyClick(view, Qt::Key_Down);
@@ -558,6 +563,20 @@ void tst_ZvCalendarWidget::pagingKeepsTheSelection()
     QCOMPARE(m_log->names(), QStringList());
     QCOMPARE(m_calendar->selectedDate(), day(12));
     QCOMPARE(m_calendar->selectedDates(), (QList<QDate>{day(10), day(12)}));
+}
+
+void tst_ZvCalendarWidget::standsItsDeathUnderItsMenu()
+{
+    QWidget *viewport = m_mouse->view()->viewport();
+    const QPoint position = m_mouse->cell(day(16)).center();
+    QTimer::singleShot(0, this, [this] {
+        QVERIFY(QApplication::activePopupWidget());
+        m_calendar.reset();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, position, viewport->mapToGlobal(position));
+    QCoreApplication::sendEvent(viewport, &event);
+    QVERIFY(!m_calendar);
+    init();
 }
 
 QTEST_MAIN(tst_ZvCalendarWidget)

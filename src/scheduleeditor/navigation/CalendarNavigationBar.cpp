@@ -12,7 +12,7 @@ namespace Zavo {
 
 namespace {
 
-constexpr int menuButtonMinimumWidthPx = 32;
+constexpr int barMenuButtonWidthPx = 32;
 constexpr double barIconPx = 16.0;
 
 const QLatin1String barStyle("QWidget#qt_calendar_navigationbar{color: black;font-weight: bold;"
@@ -83,7 +83,7 @@ void CalendarNavigationBar::addMenuButton(QMenu *menu)
         return;
     m_menuButton = new QToolButton(m_bar);
     m_menuButton->setObjectName(QLatin1String(NavigationName::CalendarMenuButton));
-    m_menuButton->setMinimumWidth(menuButtonMinimumWidthPx);
+    m_menuButton->setMinimumWidth(barMenuButtonWidthPx);
     m_menuButton->setIcon(QIcon(QStringLiteral(":/images/menu_simple.svg")));
     m_menuButton->setAutoRaise(m_nextMonthButton->autoRaise());
     m_menuButton->setMenu(menu);
