@@ -230,14 +230,14 @@ void tst_ZvScheduleSwitcherWidget::todayLeadsToToday()
     host.switcher->setSelection(SelectionType::Week);
     host.log.clear();
     QTest::mousePress(host.today(), Qt::LeftButton);
-    QCOMPARE(host.taken(), QStringList());
+    QCOMPARE(host.taken(), QStringList{activated});
     QTest::mouseRelease(host.today(), Qt::LeftButton);
     QCOMPARE(host.taken(), (QStringList{dateRequest(today), activated}));
     QCOMPARE(host.selectedFrames(), QStringLiteral("C"));
     QCOMPARE(host.calendar()->selectedDates(), QList<QDate>{today});
     QCOMPARE(host.calendar()->yearShown(), today.year());
     QTest::mouseClick(host.today(), Qt::LeftButton);
-    QCOMPARE(host.taken(), (QStringList{dateRequest(today), activated}));
+    QCOMPARE(host.taken(), (QStringList{activated, dateRequest(today), activated}));
     QCOMPARE(host.calendar()->selectedDates(), QList<QDate>());
 }
 
@@ -369,6 +369,15 @@ void tst_ZvScheduleSwitcherWidget::activatesItself()
     host.switcher->setActivated();
     QCOMPARE(host.log.arguments(1).first().value<QWidget *>(), host.switcher.get());
     QCOMPARE(host.taken(), (QStringList{activated, activated}));
+    // A press on what stands for no schedule.
+    auto *executed = host.switcher->findChild<ZvScheduledToBeExecutedWidget *>();
+    QTest::mouseClick(executed, Qt::LeftButton);
+    QCOMPARE(host.taken(), QStringList{activated});
+    QWidget *content = host.switcher->widget();
+    QTest::mouseClick(content, Qt::LeftButton, Qt::NoModifier,
+                      QPoint(content->width() / 2, content->height() - 2));
+    QCOMPARE(host.taken(), QStringList{activated});
+    QCOMPARE(host.selectedFrames(), QStringLiteral("C"));
     host.switcher->storeCurrentSchedule();
     host.switcher->onEditMenuAboutToShow();
     QCOMPARE(host.taken(), (QStringList{QStringLiteral("requestStoreCurrentSchedule"),

@@ -3,6 +3,7 @@
 #include "navigation/LookState.h"
 #include "navigation/NavigationNames.h"
 
+#include <QMouseEvent>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -77,6 +78,7 @@ void ZvScheduleSwitcherSelectedWidget::mousePressEvent(QMouseEvent *event)
 {
     Q_EMIT clicked(this);
     QFrame::mousePressEvent(event);
+    event->accept();
 }
 
 } // namespace Zavo

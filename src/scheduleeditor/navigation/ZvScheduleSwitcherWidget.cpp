@@ -286,14 +286,15 @@ void ZvScheduleSwitcherWidget::onCalendarSelectionChanged()
 
 bool ZvScheduleSwitcherWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched->objectName() == QLatin1String(NavigationName::CalendarOuterWidget)) {
-        if (event->type() == QEvent::Leave) {
-            m_calendarWidget->clearHovered();
-        } else if (event->type() == QEvent::MouseButtonPress) {
-            setActivated();
-            // The calendar has told of this press; the frame around would tell of it again.
+    const bool isAroundCalendar =
+        watched->objectName() == QLatin1String(NavigationName::CalendarOuterWidget);
+    if (event->type() == QEvent::Leave && isAroundCalendar) {
+        m_calendarWidget->clearHovered();
+    } else if (event->type() == QEvent::MouseButtonPress) {
+        setActivated();
+        // The calendar has told of this press; the frame around would tell of it again.
+        if (isAroundCalendar)
             return true;
-        }
     }
     return QScrollArea::eventFilter(watched, event);
 }
