@@ -1,0 +1,356 @@
+#include "ActionHost.h"
+
+#include "SceneMouse.h"
+
+#include "ZvEditorCommon.h"
+#include "domain/ZvScheduleBasicInfo.h"
+#include "editor/DockNames.h"
+#include "navigation/ZvCalendarWidget.h"
+#include "navigation/ZvScheduleListWidget.h"
+#include "navigation/ZvScheduleSwitcherWidget.h"
+#include "services/ZvScheduleClipboard.h"
+#include "timetable/ZvTimeTableTimeItem.h"
+#include "workspace/ZvScheduleRenameTabWidget.h"
+
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDockWidget>
+#include <QGraphicsView>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QStandardItem>
+#include <QUndoGroup>
+#include <QUndoStack>
+
+#include <algorithm>
+
+using namespace Zavo;
+
+namespace ZavoTest {
+
+namespace {
+
+const QDate Date(2031, 5, 6);
+const QPointF EmptyPlace(180.0, 1210.0); // 20 o'clock, where a paste goes to
+constexpr int AnswerInterval = 1;        // ms
+
+QList<ZvTime> threeBands()
+{
+    QList<ZvTime> times;
+    for (const int hour : {8, 10, 12})
+        times.append({QTime(hour, 0), QTime(hour + 1, 0), QStringLiteral("stage.xml")});
+    return times;
+}
+
+// A band and a schedule, so that every widget has something to paste.
+void fillClipboard()
+{
+    const QList<ZvTime> times = {{QTime(1, 0), QTime(2, 0), QStringLiteral("copied.xml")}};
+    ZvSchedule schedule;
+    schedule.setType(ZvSchedule::Default);
+    schedule.setTimeList(times);
+    auto *payload = new QMimeData;
+    payload->setData(ZvEditorCommon::MIME_TYPE_TIME_DATA, ZvScheduleClipboard::timesToXml(times));
+    payload->setData(ZvEditorCommon::MIME_TYPE_SCHEDULE_DATA,
+                     ZvScheduleClipboard::schedulesToXml({schedule}));
+    QGuiApplication::clipboard()->setMimeData(payload);
+}
+
+QString number(int value)
+{
+    return QString::number(value);
+}
+
+QList<QAction *> actionsOf(const QMenu *menu)
+{
+    QList<QAction *> named;
+    const QList<QAction *> all = menu->actions();
+    for (QAction *action : all) {
+        if (action->menu())
+            named.append(actionsOf(action->menu()));
+        else if (!action->isSeparator())
+            named.append(action);
+    }
+    return named;
+}
+
+} // namespace
+
+ActionHost::ActionHost(Target target)
+    : EditorFixture(QStringList())
+    , m_target(target)
+{
+    writeChannels();
+    // No button lies behind the end of the tool bar.
+    window->resize(1100, 450);
+    m_isReady = start() && prepare();
+}
+
+ActionHost::~ActionHost()
+{
+    QDesktopServices::unsetUrlHandler(QString());
+}
+
+void ActionHost::writeChannels()
+{
+    writeChannelFile(data, channelFileName(0), {0, 0, QStringLiteral("Alpha")});
+    writeChannelFile(data, channelFileName(2), {2, 2, QStringLiteral("Gamma")});
+    const QString path =
+        writeChannelFile(data, channelFileName(1), {1, 1, QStringLiteral("Beta"), threeBands()});
+    ZvChannel channel = readChannelFile(path);
+    ZvSchedule schedule;
+    schedule.setType(ZvSchedule::Date);
+    schedule.setDate(Date);
+    schedule.setTimeList(threeBands());
+    channel.insertSchedule(schedule);
+    channel.writeToFile();
+}
+
+// Something to undo and to redo, to save and to paste, and a dock that is not where it was.
+bool ActionHost::prepare()
+{
+    m_page = area(1);
+    main()->changeChannelNameWithUndo(2, QStringLiteral("Gamma1"));
+    main()->changeChannelNameWithUndo(1, QStringLiteral("Beta1"));
+    main()->changeChannelNameWithUndo(1, QStringLiteral("Beta2"));
+    main()->undoGroup()->undo();
+    window->findChild<QDockWidget *>(QLatin1String(DockName::ChooseStage))->hide();
+    main()->switchToDateSchedule(m_target == Target::Missing ? Date.addDays(1) : Date);
+    if (m_target == Target::Default)
+        main()->switchToDefaultSchedule();
+    QCoreApplication::processEvents(); // the place of the table in the window
+    SceneMouse(area(1)->findChild<QGraphicsView *>()).click(EmptyPlace);
+    select();
+    mark();
+    fillClipboard();
+    QCoreApplication::processEvents();
+    connectWitnesses();
+    window->activateWindow();
+    return tabs()->currentIndex() == 1 && QTest::qWaitForWindowActive(window.get());
+}
+
+void ActionHost::mark() const
+{
+    if (m_target == Target::Partly)
+        window->findChild<ZvCalendarWidget *>()->selectWeek(Date);
+    const auto check = [this](const ZvScheduleBasicInfo &info) {
+        list()->rowItems(info).first()->setCheckState(Qt::Checked);
+    };
+    if (m_target == Target::Partly || m_target == Target::Wholly)
+        check(ZvScheduleBasicInfo(Date));
+    if (m_target == Target::Default || m_target == Target::Wholly)
+        check(ZvScheduleBasicInfo(ZvSchedule::Default));
+}
+
+void ActionHost::select() const
+{
+    if (m_target == Target::Missing || m_target == Target::Nothing)
+        return;
+    main()->selectAllItems();
+    if (m_target != Target::Partly)
+        return;
+    const QList<ZvTimeTableTimeItem *> items = area(1)->selectedTimeItems();
+    for (int i = 1; i < items.size(); ++i)
+        items.at(i)->setSelected(false);
+}
+
+void ActionHost::connectWitnesses()
+{
+    // clang-format off
+    connect(editor, SIGNAL(closed()), this, SLOT(onClosed()));
+    connect(editor, SIGNAL(requestQuit()), this, SLOT(onQuit()));
+    connect(editor, SIGNAL(requestShowUploadManager()), this, SLOT(onUpload()));
+    connect(editor, SIGNAL(requestShowChannelConfiguration()), this, SLOT(onConfigure()));
+    connect(editor, SIGNAL(requestShowChannelExporter(QString)), this, SLOT(onExport(QString)));
+    connect(QGuiApplication::clipboard(), SIGNAL(dataChanged()), this, SLOT(onClipboard()));
+    connect(&m_answers, SIGNAL(timeout()), this, SLOT(answer()));
+    // clang-format on
+    tabs()->installEventFilter(this);
+    m_answers.start(AnswerInterval);
+    QDesktopServices::setUrlHandler(QString(), this, "open");
+}
+
+void ActionHost::open(const QUrl &url)
+{
+    m_events.append(QStringLiteral("opens ") + url.path().mid(data.path().size() + 1));
+}
+
+void ActionHost::onExport(const QString &path)
+{
+    m_events.append(QStringLiteral("export ") + QFileInfo(path).fileName());
+}
+
+void ActionHost::answer()
+{
+    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (!dialog || dialog == m_answered)
+        return;
+    m_answered = dialog;
+    m_events.append(QStringLiteral("asks ") + dialog->windowTitle());
+    const auto *box = qobject_cast<QMessageBox *>(dialog);
+    for (const auto button : {QMessageBox::NoToAll, QMessageBox::Yes, QMessageBox::Ok}) {
+        if (QAbstractButton *found = box ? box->button(button) : nullptr) {
+            found->click();
+            return;
+        }
+    }
+    dialog->reject();
+}
+
+QToolBar *ActionHost::toolBar() const
+{
+    return window->findChild<QToolBar *>(QLatin1String(WorkspaceName::ToolBar));
+}
+
+ZvScheduleListWidget *ActionHost::list() const
+{
+    return window->findChild<ZvScheduleListWidget *>();
+}
+
+ZvScheduleSwitcherWidget *ActionHost::switcher() const
+{
+    return window->findChild<ZvScheduleSwitcherWidget *>();
+}
+
+QList<QAction *> ActionHost::actions() const
+{
+    QList<QAction *> all;
+    const QList<QMenu *> menus = editor->menu();
+    for (const QMenu *menu : menus)
+        all.append(actionsOf(menu));
+    all.append(toolBar()->actions().last());
+    return all;
+}
+
+QAction *ActionHost::actionOf(const QString &name) const
+{
+    const QList<QAction *> all = actions();
+    const auto found = std::find_if(all.cbegin(), all.cend(), [&name](const QAction *action) {
+        return nameOf(action) == name;
+    });
+    return found == all.cend() ? nullptr : *found;
+}
+
+QString ActionHost::nameOf(const QAction *action)
+{
+    return action->text().remove(QLatin1Char('&')).remove(QStringLiteral("..."));
+}
+
+ActionHost::State ActionHost::fileState() const
+{
+    State state;
+    const QStringList names = data.names(QStringLiteral("channel"));
+    for (const QString &name : names)
+        state.insert(name, QString::fromUtf8(data.read(QStringLiteral("channel/") + name)));
+    return state;
+}
+
+QString ActionHost::tabTexts() const
+{
+    QStringList texts;
+    for (int i = 0; i < tabs()->count(); ++i)
+        texts.append(tabs()->tabText(i));
+    return texts.join(QLatin1Char(','));
+}
+
+void ActionHost::insertCalendar(State *state) const
+{
+    const auto *calendar = window->findChild<ZvCalendarWidget *>();
+    const QDate date = calendar->selectedDate();
+    state->insert(QStringLiteral("date"), date == QDate::currentDate()
+                                              ? QStringLiteral("today")
+                                              : date.toString(Qt::ISODate));
+    state->insert(QStringLiteral("dates"), number(calendar->selectedDates().size()));
+    state->insert(QStringLiteral("first day"),
+                  QLocale::c().dayName(calendar->firstDayOfWeek(), QLocale::ShortFormat));
+    state->insert(QStringLiteral("week numbers"),
+                  calendar->verticalHeaderFormat() == QCalendarWidget::NoVerticalHeader
+                      ? QStringLiteral("hidden")
+                      : QStringLiteral("shown"));
+}
+
+QString ActionHost::visibleDocks() const
+{
+    QStringList names;
+    const auto docks = window->findChildren<QDockWidget *>();
+    for (const QDockWidget *dock : docks) {
+        if (dock->isVisible())
+            names.append(dock->windowTitle().section(QLatin1Char(' '), -1));
+    }
+    names.sort();
+    return names.join(QLatin1Char('+'));
+}
+
+// A platform may take the focus from the editor, and so end it, when the menu's window goes.
+bool ActionHost::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ChildPolished) {
+        const auto *child = static_cast<const QChildEvent *>(event)->child();
+        if (const auto *edited = qobject_cast<const ZvScheduleRenameTabWidget *>(child))
+            m_events.append(QStringLiteral("renames ") + edited->text());
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+ActionHost::State ActionHost::state() const
+{
+    State state = fileState();
+    const ZvScheduleWorkingArea *page = main() ? main()->currentWorkingArea() : nullptr;
+    if (!page)
+        return state;
+    state.insert(QStringLiteral("tabs"), tabTexts());
+    state.insert(QStringLiteral("tab"), number(tabs()->currentIndex()));
+    state.insert(QStringLiteral("docks"), visibleDocks());
+    state.insert(QStringLiteral("marked"), number(list()->checkedInfos().size()));
+    insertCalendar(&state);
+    const QUndoStack *stack = page->undoStack();
+    const QString history = QStringLiteral("%1/%2").arg(stack->index()).arg(stack->count());
+    // Of another page it is of no interest how it differs from this one.
+    const QString prefix = page == m_page ? QString() : QStringLiteral("other ");
+    state.insert(prefix + QStringLiteral("bands"), number(page->currentTimes().size()));
+    state.insert(prefix + QStringLiteral("selected"), number(page->selectedTimeItems().size()));
+    state.insert(prefix + QStringLiteral("schedules"),
+                 number(page->channel()->scheduleList().size()));
+    state.insert(prefix + QStringLiteral("history"), history);
+    return state;
+}
+
+QString ActionHost::changesSince(const State &before)
+{
+    const State after = state();
+    QStringList changes;
+    changes.swap(m_events);
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        const bool isFile = it.key().endsWith(QLatin1String(".xml"));
+        if (after.contains(it.key()) && after.value(it.key()) != it.value())
+            changes.append(isFile ? it.key() + QStringLiteral(" written")
+                                  : it.key() + QStringLiteral(" %1>%2").arg(it.value(),
+                                                                            after.value(it.key())));
+        else if (isFile && !after.contains(it.key()))
+            changes.append(it.key() + QStringLiteral(" removed"));
+    }
+    for (auto it = after.cbegin(); it != after.cend(); ++it) {
+        if (!before.contains(it.key()) && it.key().endsWith(QLatin1String(".xml")))
+            changes.append(it.key() + QStringLiteral(" new"));
+    }
+    return changes.join(QStringLiteral("; "));
+}
+
+bool ActionHost::goBackTo(const State &before)
+{
+    if (!main())
+        return false;
+    if (state().value(QStringLiteral("history")) != before.value(QStringLiteral("history")))
+        main()->undoGroup()->undo();
+    main()->deselectAllItems();
+    list()->deselectAllItems();
+    select();
+    mark();
+    fillClipboard();
+    QCoreApplication::processEvents();
+    m_events.clear();
+    return state() == before;
+}
+
+} // namespace ZavoTest
