@@ -64,7 +64,7 @@ void *ZvTimeTableTimeItem::operator new(std::size_t size)
     return BandMemory::take(size);
 }
 
-void ZvTimeTableTimeItem::operator delete(void *memory, std::size_t)
+void ZvTimeTableTimeItem::operator delete(void *memory)
 {
     BandMemory::give(memory);
 }

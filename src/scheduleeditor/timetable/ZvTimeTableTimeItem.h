@@ -33,7 +33,7 @@ public:
 
     /// See BandMemory.
     static void *operator new(std::size_t size);
-    static void operator delete(void *memory, std::size_t size);
+    static void operator delete(void *memory);
 
     int type() const override { return Type; }
     QRectF boundingRect() const override;
