@@ -70,6 +70,27 @@ bool readPackage(QByteArray &bytes, StageRecord *record)
     const QByteArray scene = entries.read(QStringLiteral("stage.xml"), StageParser::MaximumBytes);
     return parse(scene, entries, record);
 }
+
+/// Gives no picture, but remembers which ones were asked for.
+class AskedPictures final : public StagePictures
+{
+public:
+    QByteArray read(const QString &source, int) const override
+    {
+        m_sources.append(source);
+        return {};
+    }
+
+    const QStringList &sources() const { return m_sources; }
+
+private:
+    mutable QStringList m_sources;
+};
+
+bool isPackage(const QString &filePath)
+{
+    return QFileInfo(filePath).suffix().compare(QLatin1String("zstg"), Qt::CaseInsensitive) == 0;
+}
 } // namespace
 
 bool read(const QString &filePath, StageRecord *record)
@@ -77,10 +98,27 @@ bool read(const QString &filePath, StageRecord *record)
     QByteArray bytes;
     if (!BoundedFile::read(filePath, StageParser::MaximumBytes, &bytes))
         return false;
-    const QFileInfo info(filePath);
-    if (info.suffix().compare(QLatin1String("zstg"), Qt::CaseInsensitive) == 0)
+    if (isPackage(filePath))
         return readPackage(bytes, record);
-    return parse(bytes, FolderPictures(info.absolutePath()), record);
+    return parse(bytes, FolderPictures(QFileInfo(filePath).absolutePath()), record);
+}
+
+bool pictureSources(const QString &filePath, QStringList *sources)
+{
+    StageRecord record;
+    if (isPackage(filePath)) {
+        if (!read(filePath, &record))
+            return false;
+        sources->clear();
+        return true;
+    }
+    QByteArray bytes;
+    const AskedPictures pictures;
+    if (!BoundedFile::read(filePath, StageParser::MaximumBytes, &bytes) ||
+        !parse(bytes, pictures, &record))
+        return false;
+    *sources = pictures.sources();
+    return true;
 }
 
 } // namespace Zavo::StageFile
