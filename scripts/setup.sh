@@ -6,6 +6,8 @@ set -euo pipefail
 packages=(
   g++ cmake ninja-build
   qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libkf5archive-dev
+  # Does the transfers of uploads.
+  rsync
   # Qt's own catalogues, and fonts that cover the scripts of the example channels.
   qttranslations5-l10n fonts-dejavu-core fonts-ipafont-gothic
   # A display for the test that copies from one program to another.

@@ -8,7 +8,6 @@ constexpr char tabWidget[] = "ScheduleTabWidget";
 
 /// The actions behind which lies something that this program does not offer.
 constexpr const char *actionsNotOffered[] = {
-    "Action_Upload",
     "Action_Output_Channel_Data",
     "Action_Channel_Configuration",
 };

@@ -7,6 +7,7 @@
 #include "ZvEditorConfig.h"
 #include "ZvSystemInfo.h"
 #include "editor/ZvScheduleEditor.h"
+#include "upload/UploadDialog.h"
 
 #include <QAction>
 #include <QApplication>
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QScreen>
 
 namespace Zavo {
@@ -74,8 +76,23 @@ void HostWindow::showVersionInformation()
     VersionBox(this).exec();
 }
 
+void HostWindow::showUploadManager()
+{
+    if (!m_uploadDialog) {
+        m_uploadDialog = new UploadDialog(ZvScheduleEditor::getUploadLogDir().absolutePath(), this);
+        connect(m_uploadDialog, SIGNAL(logRequested()), m_editor, SLOT(showUploadLogFile()));
+    }
+    m_uploadDialog->show();
+    m_uploadDialog->raise();
+    m_uploadDialog->activateWindow();
+}
+
 void HostWindow::closeEvent(QCloseEvent *event)
 {
+    if (!m_editorClosed && !m_closing && !confirmEndOfUpload()) {
+        event->ignore();
+        return;
+    }
     closeEditor();
     event->setAccepted(m_editorClosed);
 }
@@ -112,6 +129,7 @@ void HostWindow::connectEditor()
     connect(m_editor, SIGNAL(requestQuit()), this, SLOT(close()));
     connect(m_editor, SIGNAL(requestShowVersionInformation()), this,
                              SLOT(showVersionInformation()));
+    connect(m_editor, SIGNAL(requestShowUploadManager()), this, SLOT(showUploadManager()));
     connect(m_editor, SIGNAL(graphicsScenePurged(QGraphicsScene*)), m_scenePurger,
                              SLOT(purge(QGraphicsScene*)));
     connect(m_editor, SIGNAL(graphicsScenePurged(QList<QGraphicsScene*>)), m_scenePurger,
@@ -133,6 +151,20 @@ void HostWindow::closeEditor()
         return;
     m_closing = true;
     m_editor->close();
+}
+
+bool HostWindow::confirmEndOfUpload()
+{
+    if (!m_uploadDialog || !m_uploadDialog->isUploading())
+        return true;
+    const auto answer = QMessageBox::question(
+        this, tr("Upload"),
+        tr("An upload is going on. If the program ends now, the targets that are not complete keep "
+           "what they had.\n\nDo you want to cancel the upload and close?"));
+    if (answer != QMessageBox::Yes)
+        return false;
+    m_uploadDialog->cancelUpload();
+    return true;
 }
 
 } // namespace Zavo

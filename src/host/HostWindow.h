@@ -7,6 +7,7 @@ class QMenu;
 namespace Zavo {
 
 class ScenePurger;
+class UploadDialog;
 class ZvScheduleEditor;
 
 /// The program's window: it holds the editor, shows its menus and a help menu, and answers the
@@ -34,6 +35,9 @@ public:
 public Q_SLOTS:
     void showVersionInformation();
 
+    /// Shows the upload manager, which stays open beside the editor.
+    void showUploadManager();
+
 Q_SIGNALS:
     /// The editor has finished and the window is closed; the program may end. Emitted once.
     void finished();
@@ -50,9 +54,11 @@ private:
     void connectEditor();
     void disableWhatIsNotOffered();
     void closeEditor();
+    bool confirmEndOfUpload();
 
     ScenePurger *m_scenePurger = nullptr;
     ZvScheduleEditor *m_editor = nullptr;
+    UploadDialog *m_uploadDialog = nullptr; // null until it is first asked for
     bool m_closing = false;
     bool m_editorClosed = false;
 };

@@ -117,16 +117,15 @@ void tst_HostWindow::showsTheMenus()
 
 void tst_HostWindow::disablesWhatItDoesNotOffer()
 {
-    for (const auto *name :
-         {"Action_Upload", "Action_Output_Channel_Data", "Action_Channel_Configuration"}) {
+    for (const auto *name : {"Action_Output_Channel_Data", "Action_Channel_Configuration"}) {
         const QAction *const action = m_window->editor()->getAction(QLatin1String(name));
         QVERIFY2(action, name);
         QVERIFY2(!action->isEnabled(), name);
     }
     start();
-    const QAction *const upload =
+    const QAction *const exporter =
         m_window->editor()->getAction(QStringLiteral("Action_Output_Channel_Data"));
-    QVERIFY(!upload->isEnabled());
+    QVERIFY(!exporter->isEnabled());
     QVERIFY(m_window->editor()->getAction(QStringLiteral("Action_Save_Channel"))->isEnabled());
 }
 

@@ -1,0 +1,18 @@
+#include "upload/FolderLookup.h"
+
+#include <QFileInfo>
+
+namespace Zavo {
+
+FolderLookup::FolderLookup(const QString &folder)
+    : m_folder(folder)
+{
+    connect(this, SIGNAL(finished()), this, SLOT(deleteLater()), Qt::QueuedConnection);
+}
+
+void FolderLookup::run()
+{
+    m_canonicalPath = QFileInfo(m_folder).canonicalFilePath();
+}
+
+} // namespace Zavo
