@@ -1,4 +1,5 @@
 #include "Bench.h"
+#include "Once.h"
 
 #include "Path.h"
 #include "ZvChannel.h"
@@ -13,11 +14,15 @@
 #include <QGraphicsView>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QProcess>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QVBoxLayout>
 
-#include <memory>
+#include <sys/resource.h>
+
+#include <cstdlib>
 
 using namespace Zavo;
 
@@ -26,6 +31,9 @@ namespace {
 constexpr int channelCount = 100;
 constexpr int windowWidth = 1280;
 constexpr int windowHeight = 860;
+constexpr int settlingTime = 200; // ms, longer than any timer of the start
+constexpr double tabsGoal = 3.5;
+constexpr double startGoal = 4.0;
 
 /// What a page cannot do without: a widget with a view on a scene.
 QWidget *createBarePage()
@@ -52,11 +60,17 @@ void show(Widget *widget)
     QCoreApplication::processEvents();
 }
 
+/// Milliseconds of the work, which a profiler finds under its name.
+double measure(const std::function<void()> &work)
+{
+    return Bench::measureProcessor([&work] { measuredOperation(&work); });
+}
+
 double bareTabs()
 {
     QTabWidget tabs;
     show(&tabs);
-    return Bench::measure([&tabs] {
+    return measure([&tabs] {
         addBarePages(&tabs, channelCount);
         QCoreApplication::processEvents();
     });
@@ -67,7 +81,7 @@ double ownTabs()
     ZvScheduleMainWidget widget;
     widget.setupWidgets();
     show(&widget);
-    const double figure = Bench::measure([&widget] {
+    const double figure = measure([&widget] {
         QMetaObject::invokeMethod(&widget, "createTabs");
         QCoreApplication::processEvents();
     });
@@ -75,36 +89,44 @@ double ownTabs()
     return figure;
 }
 
+/// Shows a window of empty pages.
+void openBareWindow(QMainWindow *window, int pageCount)
+{
+    auto *tabs = new QTabWidget;
+    window->setCentralWidget(tabs);
+    addBarePages(tabs, pageCount);
+    show(window);
+}
+
+/// Shows the editor in a window and waits for its tabs.
+ZvScheduleEditor *openOwnWindow(QMainWindow *window, int pageCount)
+{
+    const auto tabCount = [window] {
+        const auto *tabs = window->findChild<QTabWidget *>();
+        return tabs ? tabs->count() : 0;
+    };
+    auto *editor = new ZvScheduleEditor(window);
+    for (QMenu *menu : editor->menu())
+        window->menuBar()->addMenu(menu);
+    editor->exec();
+    show(window);
+    while (tabCount() < pageCount)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents();
+    return editor;
+}
+
 double bareStart(int pageCount)
 {
-    std::unique_ptr<QMainWindow> window;
-    return Bench::measure([&window, pageCount] {
-        window = std::make_unique<QMainWindow>();
-        auto *tabs = new QTabWidget;
-        window->setCentralWidget(tabs);
-        addBarePages(tabs, pageCount);
-        show(window.get());
-    });
+    QMainWindow window;
+    return measure([&] { openBareWindow(&window, pageCount); });
 }
 
 double ownStart(int pageCount)
 {
     QMainWindow window;
     ZvScheduleEditor *editor = nullptr;
-    const auto tabCount = [&window] {
-        const auto *tabs = window.findChild<QTabWidget *>();
-        return tabs ? tabs->count() : 0;
-    };
-    const double figure = Bench::measure([&] {
-        editor = new ZvScheduleEditor(&window);
-        for (QMenu *menu : editor->menu())
-            window.menuBar()->addMenu(menu);
-        editor->exec();
-        show(&window);
-        while (tabCount() < pageCount)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        QCoreApplication::processEvents();
-    });
+    const double figure = measure([&] { editor = openOwnWindow(&window, pageCount); });
     QList<QGraphicsScene *> scenes;
     QObject::connect(
         editor, qOverload<const QList<QGraphicsScene *> &>(&ZvScheduleEditor::graphicsScenePurged),
@@ -113,6 +135,40 @@ double ownStart(int pageCount)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     qDeleteAll(scenes);
     return figure;
+}
+
+/// The life of a program of its own until its window is idle, the timers of its start included.
+[[noreturn]] void liveAlone(bool plain, int pageCount)
+{
+    QMainWindow window;
+    if (plain)
+        openBareWindow(&window, pageCount);
+    else
+        openOwnWindow(&window, pageCount);
+    QTimer::singleShot(settlingTime, qApp, SLOT(quit()));
+    QCoreApplication::exec();
+    std::_Exit(0);
+}
+
+double processorTimeOfChildren()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto milliseconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    };
+    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
+}
+
+double programStart(bool plain)
+{
+    QStringList arguments{QStringLiteral("--alone")};
+    if (plain)
+        arguments.append(QStringLiteral("--bare"));
+    const double before = processorTimeOfChildren();
+    if (QProcess::execute(QCoreApplication::applicationFilePath(), arguments) != 0)
+        qFatal("cannot start a program");
+    return processorTimeOfChildren() - before;
 }
 
 void writeChannels(const QString &dataDir)
@@ -144,26 +200,53 @@ void beSilent(QtMsgType type, const QMessageLogContext &, const QString &message
         std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
+void doOnce(const QString &name, bool plain, int pages)
+{
+    // The first time warms up what a process has only once.
+    for (int i = 0; i < 2; ++i) {
+        if (name == QLatin1String("createTabs"))
+            plain ? bareTabs() : ownTabs();
+        else
+            plain ? bareStart(pages) : ownStart(pages);
+    }
+}
+
 } // namespace
 
+/// Without arguments the table; with --check the exit status says whether the goals hold; with
+/// --once createTabs|start [--bare] one of them, ours or the plain one, for a profiler.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     qInstallMessageHandler(beSilent);
     ZvEditorUserConfig::setSettings(nullptr);
-    Bench::Table table(QCoreApplication::arguments());
-
-    QTemporaryDir many;
-    writeChannels(many.path());
-    ZvEditorConfig::setDataDir(many.path());
-    table.addFigures({QStringLiteral("createTabs / as many bare pages"), channelCount, 3.5},
-                     bareTabs, ownTabs);
-
+    const QStringList arguments = QCoreApplication::arguments();
+    const bool plain = arguments.contains(QStringLiteral("--bare"));
     const QString examples = QStringLiteral(ZAVO_EXAMPLE_DATA);
     ZvEditorConfig::setDataDir(examples);
     const int count = countChannels(examples);
+    if (arguments.value(1) == QLatin1String("--alone"))
+        liveAlone(plain, count);
+
+    QTemporaryDir many;
+    writeChannels(many.path());
+    if (arguments.value(1) == QLatin1String("--once")) {
+        const QString name = arguments.value(2);
+        if (name == QLatin1String("createTabs"))
+            ZvEditorConfig::setDataDir(many.path());
+        doOnce(name, plain, count);
+        return 0;
+    }
+
+    Bench::Table table(arguments);
     table.addFigures(
-        {QStringLiteral("start until idle / window of empty pages"), count, 4.0},
+        {QStringLiteral("start of the program / of a bare one"), count, startGoal},
+        [] { return programStart(true); }, [] { return programStart(false); });
+    table.addFigures(
+        {QStringLiteral("window in a running program / bare one"), count, startGoal},
         [count] { return bareStart(count); }, [count] { return ownStart(count); });
+    ZvEditorConfig::setDataDir(many.path());
+    table.addFigures({QStringLiteral("createTabs / as many bare pages"), channelCount, tabsGoal},
+                     bareTabs, ownTabs);
     return table.finish();
 }

@@ -1,4 +1,5 @@
 #include "Bench.h"
+#include "Once.h"
 #include "timetable/BareTimeTable.h"
 #include "timetable/DenseDay.h"
 #include "timetable/Operations.h"
@@ -126,13 +127,6 @@ void measure(Bench::Table *table, int count, const QStringList &names)
     }
     if (count >= leastCountOfMemory && isWanted("memory"))
         addMemory(table, count, &own, &bare);
-}
-
-/// Does one operation, for a profiler that collects within this function alone.
-extern "C" __attribute__((noinline)) void measuredOperation(const std::function<void()> *work)
-{
-    (*work)();
-    asm volatile(""); // no tail call: the profiler waits for the return
 }
 
 void doOnce(const Operation &operation)

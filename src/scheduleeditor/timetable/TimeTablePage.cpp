@@ -6,6 +6,7 @@
 #include "stages/ZvScheduleDefaultStageWidget.h"
 #include "timetable/TimeBlock.h"
 #include "timetable/TimeItemRects.h"
+#include "timetable/UnseenWidgets.h"
 #include "timetable/WorkingAreaHeader.h"
 #include "timetable/WorkingAreaStatusBar.h"
 #include "timetable/ZvTimeTableBaseItem.h"
@@ -45,12 +46,43 @@ TimeTablePage::TimeTablePage(QWidget *parent)
     createTimeTable();
     connectParts();
     setFocusPolicy(Qt::StrongFocus);
+    m_unseenWidgets = std::make_unique<UnseenWidgets>(this);
 }
 
 TimeTablePage::~TimeTablePage()
 {
     if (ZvTimeTableScene *scene = releaseScene())
         Q_EMIT graphicsScenePurged(scene);
+}
+
+// A tab widget asks all its pages for their sizes, and each answer means to style and lay out every
+// child of a page. Blank pages are alike, so one of them answers for its siblings.
+const TimeTablePage *TimeTablePage::spokesman() const
+{
+    static QPointer<const TimeTablePage> first;
+    if (!m_isBlank)
+        return this;
+    if (!first || !first->m_isBlank || first->parentWidget() != parentWidget())
+        first = this;
+    return first;
+}
+
+QSize TimeTablePage::sizeHint() const
+{
+    return spokesman()->QWidget::sizeHint();
+}
+
+QSize TimeTablePage::minimumSizeHint() const
+{
+    return spokesman()->QWidget::minimumSizeHint();
+}
+
+void TimeTablePage::showEvent(QShowEvent *event)
+{
+    m_unseenWidgets.reset();
+    m_isBlank = false;
+    updateGeometry();
+    QWidget::showEvent(event);
 }
 
 void TimeTablePage::createTimeTable()
@@ -266,12 +298,14 @@ ZvTimeTableTimeZoneItem *TimeTablePage::timeZone() const
 
 void TimeTablePage::setTitle(const QString &name)
 {
+    m_isBlank = false;
     m_header->setTitle(name.isEmpty() ? tr("Schedule of Unknown") : tr("Schedule of %1").arg(name));
     m_currentScheduleName = name;
 }
 
 void TimeTablePage::setScheduleEnabled(bool enabled)
 {
+    m_isBlank = false;
     m_scheduleEnabled = enabled;
     m_header->setScheduleEnabled(enabled);
     m_view->setNoScheduleLabelVisible(!enabled);
@@ -282,6 +316,7 @@ bool TimeTablePage::switchSchedule(const ZvSchedule &schedule)
 {
     if (!m_scene)
         return false;
+    m_isBlank = false;
     ZvScheduleDefaultStageWidget *box = m_header->defaultStageWidget();
     box->setStageName(QString());
     m_scene->removeAllTimeItems();
@@ -294,6 +329,7 @@ bool TimeTablePage::switchSchedule(const ZvSchedule &schedule)
 
 void TimeTablePage::setDefaultStageName(const QString &name)
 {
+    m_isBlank = false;
     m_header->defaultStageWidget()->setStageName(name);
 }
 

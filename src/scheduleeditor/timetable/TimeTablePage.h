@@ -10,6 +10,8 @@
 #include <QRectF>
 #include <QWidget>
 
+#include <memory>
+
 class QGraphicsScene;
 class QMenu;
 
@@ -17,6 +19,7 @@ namespace Zavo {
 
 class WorkingAreaHeader;
 class WorkingAreaStatusBar;
+class UnseenWidgets;
 class ZvSchedule;
 class ZvTimeTableScene;
 class ZvTimeTableTimeItem;
@@ -36,6 +39,9 @@ public:
 
     /// Gives up the scene by graphicsScenePurged(), unless it was taken.
     ~TimeTablePage() override;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
     /// Whether the schedule on show exists and can be edited.
     bool isCurrentScheduleEnabled() const { return m_scheduleEnabled; }
@@ -124,6 +130,8 @@ protected:
     /// What the table holds is not to be stored any more; its look stays until the next switch.
     void forgetSchedule() { m_scheduleEnabled = false; }
 
+    void showEvent(QShowEvent *event) override;
+
 private Q_SLOTS:
     void onScaleComboBoxIndexChanged(int index);
     void onSceneActivated();
@@ -136,6 +144,7 @@ private Q_SLOTS:
     int showQuestion(const QString &title, const QString &message, int *pressedButton = nullptr);
 
 private:
+    const TimeTablePage *spokesman() const;
     void createTimeTable();
     void connectParts();
     ZvTimeTableScene *releaseScene();
@@ -144,6 +153,8 @@ private:
     int ask(QMessageBox::Icon icon, const QString &title, const QString &message,
             int *pressedButton);
 
+    std::unique_ptr<UnseenWidgets> m_unseenWidgets;
+    bool m_isBlank = true; ///< neither seen nor filled yet
     bool m_scheduleEnabled = false;
     QString m_currentScheduleName;
     WorkingAreaHeader *m_header;

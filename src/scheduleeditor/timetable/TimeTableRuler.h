@@ -25,6 +25,8 @@ struct TimeTableRulerLine
 class TimeTableRuler
 {
 public:
+    /// Without lines, at the scale 0.
+    TimeTableRuler() = default;
     /// @p verticalScale in screen pixels a minute, above 0.
     explicit TimeTableRuler(double verticalScale);
 
@@ -39,7 +41,7 @@ private:
     void layLabels();
     QString labelOf(const TimeTableRulerLine &line) const;
 
-    double m_verticalScale;
+    double m_verticalScale = 0.0;
     QVector<TimeTableRulerLine> m_lines;
     QList<ZvTimeTableTimeLabelInfo> m_labels;
 };

@@ -1,8 +1,11 @@
 #include "timetable/WorkingAreaStatusBar.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+
+#include <utility>
 
 namespace Zavo {
 
@@ -55,6 +58,25 @@ void WorkingAreaStatusBar::createCursorTime(QLayout *part)
     m_cursorTimeLabel->setFont(font);
     part->addWidget(new QLabel(tr("Cursor Position Time:"), part->parentWidget()));
     part->addWidget(m_cursorTimeLabel);
+}
+
+// To lay itself out the bar asks all its parts for their sizes, which is work for nothing as long
+// as nobody sees it.
+bool WorkingAreaStatusBar::event(QEvent *event)
+{
+    if (event->type() != QEvent::LayoutRequest || isVisible())
+        return QStatusBar::event(event);
+    m_layoutPending = true;
+    return true;
+}
+
+void WorkingAreaStatusBar::showEvent(QShowEvent *event)
+{
+    if (std::exchange(m_layoutPending, false)) {
+        QEvent layoutRequest(QEvent::LayoutRequest);
+        QStatusBar::event(&layoutRequest);
+    }
+    QStatusBar::showEvent(event);
 }
 
 double WorkingAreaStatusBar::scaleAt(int index) const

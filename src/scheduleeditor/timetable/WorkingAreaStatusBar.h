@@ -25,10 +25,15 @@ public:
 
     void setTimeString(const QString &timeString);
 
+protected:
+    bool event(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
 private:
     void createScale(QLayout *part);
     void createCursorTime(QLayout *part);
 
+    bool m_layoutPending = false;
     QComboBox *m_scaleComboBox = nullptr;
     QLabel *m_cursorTimeLabel = nullptr;
 };

@@ -71,7 +71,7 @@ private:
     double m_rightMargin = 20.0;
     double m_verticalScale = 1.0;
     double m_horizontalScale = 1.0;
-    TimeTableRuler m_ruler{1.0};
+    TimeTableRuler m_ruler; // laid out by the first paint
     ZvTimeTableTimeLabelItem *m_labelItem = nullptr;
     RulerLabels m_labels;
     QList<ZvTimeTableTimeZoneItem *> m_timeZones;
