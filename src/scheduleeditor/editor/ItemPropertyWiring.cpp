@@ -9,7 +9,7 @@ namespace Zavo {
 
 void fillItemPropertyDock(QDockWidget *dock, ZvScheduleMainWidget *mainWidget)
 {
-    auto *panel = new ZvScheduleItemPropertyWidget;
+    auto *panel = new ZvScheduleItemPropertyWidget(dock);
     dock->setWidget(panel);
     // clang-format off
     QObject::connect(mainWidget, SIGNAL(timeTableTimeItemHasNotSelected(ZvScheduleWorkingArea*)),

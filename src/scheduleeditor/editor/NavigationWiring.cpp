@@ -75,7 +75,7 @@ ZvScheduleSwitcherWidget *fillSwitchDock(QDockWidget *dock, ZvScheduleEditor *ed
                                          ZvScheduleMainWidget *mainWidget,
                                          EditStateWatch *editState)
 {
-    auto *switcher = new ZvScheduleSwitcherWidget;
+    auto *switcher = new ZvScheduleSwitcherWidget(dock);
     switcher->setEditMenu(editor->getMenu(QLatin1String(MenuName::Edit)));
     dock->setWidget(switcher);
     connectToEditor(switcher, dock, editor);

@@ -151,9 +151,19 @@ void ScheduleDocks::attach()
     m_window->setTabPosition(Qt::LeftDockWidgetArea, QTabWidget::West);
     m_window->setTabPosition(Qt::RightDockWidgetArea, QTabWidget::West);
     for (const Which which : {SwitchSchedule, ScheduleList, ItemProperty, ChooseStage})
-        m_docks[which]->setFloating(false);
+        takeHome(m_docks[which]);
     place();
     showPlaced();
+}
+
+// A dock that was in no window yet comes home when it is placed. It takes its last style sheet before
+// that: each later change styles all its content anew.
+void ScheduleDocks::takeHome(QDockWidget *dock) const
+{
+    if (dock->parentWidget() == m_window)
+        dock->setFloating(false);
+    else
+        scaleButtons(dock);
 }
 
 void ScheduleDocks::place()

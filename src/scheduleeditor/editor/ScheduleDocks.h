@@ -67,6 +67,7 @@ private:
     static constexpr int Count = 4;
 
     QList<QDockWidget *> docks() const;
+    void takeHome(QDockWidget *dock) const;
     void place();
     void showPlaced();
 

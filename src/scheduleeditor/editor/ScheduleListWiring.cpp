@@ -57,7 +57,7 @@ void fillScheduleListDock(QDockWidget *dock, ZvScheduleEditor *editor,
                           ZvScheduleMainWidget *mainWidget, ZvScheduleSwitcherWidget *switcher,
                           EditStateWatch *editState)
 {
-    auto *list = new ZvScheduleListWidget;
+    auto *list = new ZvScheduleListWidget(dock);
     list->setEditMenu(editor->getMenu(QLatin1String(MenuName::Edit)));
     dock->setWidget(list);
     connectToEditor(list, dock, editor);

@@ -9,7 +9,7 @@ namespace Zavo {
 
 ZvScheduleStageChooserWidget *fillStageDock(QDockWidget *dock, ZvScheduleMainWidget *mainWidget)
 {
-    auto *chooser = new ZvScheduleStageChooserWidget;
+    auto *chooser = new ZvScheduleStageChooserWidget(dock);
     dock->setWidget(chooser);
     // clang-format off
     QObject::connect(chooser, SIGNAL(requestSetToDefaultStage(QString)),

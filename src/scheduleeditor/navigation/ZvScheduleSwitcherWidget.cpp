@@ -71,62 +71,60 @@ ZvScheduleSwitcherWidget::ZvScheduleSwitcherWidget(QWidget *parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    setWidget(createContent());
+    createContent();
     selectAtStart();
     connectParts();
 }
 
 // Construction
 
-QWidget *ZvScheduleSwitcherWidget::createContent()
+// From the outside in: whatever is put into another widget takes its style over, with all it holds.
+void ZvScheduleSwitcherWidget::createContent()
 {
     auto *content = new QWidget;
+    setWidget(content);
     auto *layout = new QVBoxLayout(content);
     layout->addWidget(m_todayWidget);
-    layout->addWidget(createCalendarFrame());
+    fillCalendarFrame(addFrame(NavigationName::CalendarFrame, layout));
     layout->addWidget(m_executedWidget);
-    ZvScheduleSwitcherSelectedWidget *weekFrame = createFrame(NavigationName::WeekFrame);
-    weekFrame->addChildWidget(m_weekWidget);
-    layout->addWidget(weekFrame);
-    ZvScheduleSwitcherSelectedWidget *defaultFrame = createFrame(NavigationName::DefaultFrame);
+    addFrame(NavigationName::WeekFrame, layout)->addChildWidget(m_weekWidget);
+    ZvScheduleSwitcherSelectedWidget *defaultFrame = addFrame(NavigationName::DefaultFrame, layout);
     defaultFrame->addChildWidget(m_defaultWidget);
     defaultFrame->setSelected(true);
-    layout->addWidget(defaultFrame);
     layout->addItem(
         new QSpacerItem(SpacerPx, SpacerPx, QSizePolicy::Minimum, QSizePolicy::Expanding));
-    return content;
 }
 
-ZvScheduleSwitcherSelectedWidget *ZvScheduleSwitcherWidget::createFrame(const char *name)
+ZvScheduleSwitcherSelectedWidget *ZvScheduleSwitcherWidget::addFrame(const char *name,
+                                                                     QBoxLayout *layout)
 {
     auto *frame = new ZvScheduleSwitcherSelectedWidget;
     frame->setObjectName(QLatin1String(name));
     m_selectedWidgets.append(frame);
+    layout->addWidget(frame);
     return frame;
 }
 
-QWidget *ZvScheduleSwitcherWidget::createCalendarFrame()
+void ZvScheduleSwitcherWidget::fillCalendarFrame(ZvScheduleSwitcherSelectedWidget *frame)
 {
     auto *outerWidget = new QWidget;
     outerWidget->setObjectName(QLatin1String(NavigationName::CalendarOuterWidget));
+    outerWidget->installEventFilter(this);
+    auto *countLabel = new QLabel(tr("Schedule of days: None"));
+    m_calendarWidget->setScheduleCountLabel(countLabel);
+
+    auto *layout = new QVBoxLayout;
+    layout->setContentsMargins(CalendarMarginPx, CalendarMarginPx, CalendarMarginPx,
+                               CalendarMarginPx);
+    frame->addChildLayout(layout);
+    layout->addWidget(outerWidget);
+    layout->addWidget(countLabel);
+
     auto *outerLayout = new QVBoxLayout(outerWidget);
     outerLayout->setSpacing(0);
     outerLayout->setContentsMargins(0, 0, 0, 0);
     outerLayout->addWidget(m_calendarWidget);
-    outerWidget->installEventFilter(this);
-
-    auto *countLabel = new QLabel(tr("Schedule of days: None"));
-    m_calendarWidget->setScheduleCountLabel(countLabel);
-    auto *layout = new QVBoxLayout;
-    layout->setContentsMargins(CalendarMarginPx, CalendarMarginPx, CalendarMarginPx,
-                               CalendarMarginPx);
-    layout->addWidget(outerWidget);
-    layout->addWidget(countLabel);
-
-    ZvScheduleSwitcherSelectedWidget *frame = createFrame(NavigationName::CalendarFrame);
-    frame->addChildLayout(layout);
     frame->addManagedObject(m_calendarWidget);
-    return frame;
 }
 
 void ZvScheduleSwitcherWidget::selectAtStart()

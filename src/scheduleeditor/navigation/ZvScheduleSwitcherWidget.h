@@ -123,9 +123,9 @@ Q_SIGNALS:
     void requestEditMenuAboutToShow();
 
 private:
-    QWidget *createContent();
-    QWidget *createCalendarFrame();
-    ZvScheduleSwitcherSelectedWidget *createFrame(const char *name);
+    void createContent();
+    void fillCalendarFrame(ZvScheduleSwitcherSelectedWidget *frame);
+    ZvScheduleSwitcherSelectedWidget *addFrame(const char *name, QBoxLayout *layout);
     void selectAtStart();
     void connectParts();
 

@@ -85,20 +85,20 @@ QWidget *ZvScheduleStageChooserWidget::createListPane()
     return pane;
 }
 
+// From the outside in: whatever is put into another widget takes its style over, with all it holds.
 void ZvScheduleStageChooserWidget::setupContent()
 {
-    m_splitter->addWidget(m_preview);
-    m_splitter->addWidget(createListPane());
-    m_splitter->setChildrenCollapsible(false);
-
-    auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->addWidget(m_previewCheckBox);
-    layout->addWidget(m_splitter);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    auto *content = new QWidget;
     setWidget(content);
+    auto *layout = new QVBoxLayout(content);
+    layout->addWidget(m_previewCheckBox);
+    layout->addWidget(m_splitter);
+    m_splitter->addWidget(m_preview);
+    m_splitter->addWidget(createListPane());
+    m_splitter->setChildrenCollapsible(false);
 }
 
 void ZvScheduleStageChooserWidget::connectWidgets()

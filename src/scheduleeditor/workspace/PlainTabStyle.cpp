@@ -35,7 +35,7 @@ QSize PlainTabStyle::sizeFromContents(ContentsType type, const QStyleOption *opt
 {
     QSize plainSize = size;
     const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
-    if (type == CT_TabBarTab && tab) {
+    if (type == CT_TabBarTab && tab && tab->text.contains(QLatin1Char('&'))) {
         const QSize plain = tab->fontMetrics.size(0, tab->text);
         const QSize measured = tab->fontMetrics.size(Qt::TextShowMnemonic, tab->text);
         plainSize.rwidth() += plain.width() - measured.width();
