@@ -138,24 +138,31 @@ void doOnce(const Operation &operation)
     operation.finish();
 }
 
-void doOnce(const QString &name, int count, bool plain)
+void doOnce(const QStringList &names, const QVector<Operation> &operations)
+{
+    for (const QString &name : names)
+        doOnce(operationOf(operations, name));
+}
+
+void doOnce(const QStringList &names, int count, bool plain)
 {
     OwnTimeTable own(count);
     if (!plain) {
-        doOnce(operationOf(operationsOf(&own, count), name));
+        doOnce(names, operationsOf(&own, count));
         return;
     }
     BareTimeTable bare(own.viewSize());
     bare.load(DenseDay::bands(count));
     bare.settle();
-    doOnce(operationOf(operationsOf(&bare, count), name));
+    doOnce(names, operationsOf(&bare, count));
 }
 
 } // namespace
 
 /// Without arguments the table, or the lines of the operations that are named; with --check the
 /// exit status says whether the goals hold; with
-/// --once OPERATION COUNT [--bare] one operation, ours or the plain one, for a profiler.
+/// --once OPERATION[,OPERATION...] COUNT [--bare] single operations, ours or the plain ones, for a
+/// profiler.
 int main(int argc, char *argv[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -163,7 +170,7 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1String("--once")) {
-        doOnce(arguments.value(2), arguments.value(3).toInt(),
+        doOnce(arguments.value(2).split(QLatin1Char(',')), arguments.value(3).toInt(),
                arguments.contains(QStringLiteral("--bare")));
         return 0;
     }

@@ -14,7 +14,7 @@ packages=(
   xvfb
 )
 if [[ "${1:-}" == lint ]]; then
-  packages+=(clang-14 clang-format-14 clang-tidy-14 clazy)
+  packages+=(clang-14 clang-format-14 clang-tidy-14 clazy valgrind)
 fi
 
 if ! command -v dpkg-query >/dev/null; then

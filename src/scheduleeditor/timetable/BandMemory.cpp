@@ -11,10 +11,18 @@ namespace Zavo {
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__)
-constexpr std::size_t KeptBlocks = 0; // memory that is used again hides the use of a dead band
+constexpr bool Kept = false; // memory that is used again hides the use of a dead band
 #else
-constexpr std::size_t KeptBlocks = 4320; // bands of the densest table that is edited in practice
+constexpr bool Kept = true;
 #endif
+
+constexpr std::size_t BlocksAtOnce = 128;
+
+constexpr std::size_t aligned(std::size_t size)
+{
+    constexpr std::size_t unit = alignof(std::max_align_t);
+    return (size + unit - 1) / unit * unit;
+}
 
 } // namespace
 
@@ -23,12 +31,13 @@ BandMemory::BandMemory(QObject *parent)
 {
 }
 
+// A band that outlives the application keeps its piece, with all others, to the end of the process.
 BandMemory::~BandMemory()
 {
-    for (void *memory : m_free)
-        ::operator delete(memory);
-    for (void *memory : m_resting)
-        ::operator delete(memory);
+    if (m_free.size() + m_resting.size() >= m_pieces.size() * BlocksAtOnce)
+        return;
+    for (auto &piece : m_pieces)
+        static_cast<void>(piece.release());
 }
 
 BandMemory *BandMemory::instance()
@@ -41,20 +50,31 @@ BandMemory *BandMemory::instance()
 
 void *BandMemory::take(std::size_t size)
 {
-    BandMemory *self = instance();
-    if (!self || self->m_free.empty())
+    BandMemory *self = Kept ? instance() : nullptr;
+    if (!self)
         return ::operator new(size);
+    if (self->m_free.empty())
+        self->grow(aligned(size));
     void *memory = self->m_free.back();
     self->m_free.pop_back();
     return memory;
 }
 
+// In one piece, the first block on top: whatever else the heap holds, bands that are made one after
+// the other lie in their order.
+void BandMemory::grow(std::size_t blockSize)
+{
+    m_pieces.push_back(std::make_unique<std::byte[]>(BlocksAtOnce * blockSize));
+    for (std::size_t i = BlocksAtOnce; i > 0; --i)
+        m_free.push_back(m_pieces.back().get() + (i - 1) * blockSize);
+}
+
 void BandMemory::give(void *memory)
 {
-    BandMemory *self = memory && KeptBlocks > 0 ? instance() : nullptr;
+    BandMemory *self = Kept && memory ? instance() : nullptr;
     if (self)
         self->rest(memory);
-    else
+    else if (!Kept)
         ::operator delete(memory);
 }
 
@@ -76,12 +96,7 @@ void BandMemory::wakeLater()
 void BandMemory::customEvent(QEvent *)
 {
     const auto end = m_resting.begin() + static_cast<std::ptrdiff_t>(m_due);
-    for (auto memory = m_resting.begin(); memory != end; ++memory) {
-        if (m_free.size() < KeptBlocks)
-            m_free.push_back(*memory);
-        else
-            ::operator delete(*memory);
-    }
+    m_free.insert(m_free.end(), m_resting.begin(), end);
     m_resting.erase(m_resting.begin(), end);
     wakeLater();
 }

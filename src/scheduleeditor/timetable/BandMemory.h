@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 namespace Zavo {
@@ -17,7 +18,7 @@ namespace Zavo {
 /// bands by their address. So no memory is used again before everything that was queued at the time
 /// has been delivered.
 ///
-/// One for the application, which dies with it; without one, memory goes back at once.
+/// One for the application, which keeps the memory until its end.
 class BandMemory final : public QObject
 {
     Q_OBJECT
@@ -37,9 +38,11 @@ private:
     explicit BandMemory(QObject *parent);
 
     static BandMemory *instance();
+    void grow(std::size_t blockSize);
     void rest(void *memory);
     void wakeLater();
 
+    std::vector<std::unique_ptr<std::byte[]>> m_pieces;
     std::vector<void *> m_free;
     std::vector<void *> m_resting;
     std::size_t m_due = 0; // of those at rest, from the first on
