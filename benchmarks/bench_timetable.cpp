@@ -6,6 +6,7 @@
 #include "timetable/OwnTimeTable.h"
 
 #include <QApplication>
+#include <QProcess>
 
 #include <malloc.h>
 
@@ -39,12 +40,15 @@ constexpr Figure figures[] = {
     {"insert n/2 in front of n/2 / own load", "insertFront", true, 0.0, 1.2},
     {"remove the first n/2 / own load", "removeFront", true, 0.0, 1.2},
     {"undo of a move of all / own load", "undoMove", true, 0.0, 1.2},
-    {"cut of all / own load", "cut", true, 0.0, 1.2},
-    {"paste of all / own load", "paste", true, 0.0, 1.5},
-    {"undo of a cut / own load", "undoCut", true, 0.0, 1.2},
-    {"redo of a cut / own load", "redoCut", true, 0.0, 1.2},
-    {"undo of a paste / own load", "undoPaste", true, 0.0, 1.2},
-    {"redo of a paste / own load", "redoPaste", true, 0.0, 1.2},
+    {"cut of all / own load", "cut", true, 0.0, 2.0},
+    {"paste of all / own load", "paste", true, 0.0, 2.0},
+    {"undo of a cut / own load", "undoCut", true, 0.0, 2.0},
+    {"redo of a cut / own load", "redoCut", true, 0.0, 2.0},
+    {"undo of a paste / own load", "undoPaste", true, 0.0, 2.0},
+    {"redo of a paste / own load", "redoPaste", true, 0.0, 2.0},
+    {"switch between two dates / own load", "switch", true, 0.0, 1.3},
+    {"automatic switching / own load", "reset", true, 0.0, 1.3},
+    {"undo of automatic switching / own load", "undoReset", true, 0.0, 1.3},
 };
 
 int pairsOf(int count)
@@ -88,26 +92,55 @@ void addFigure(Bench::Table *table, const Figure &figure, int count, const QVect
     ours.finish();
 }
 
-/// Bytes of the heap that a band takes once it was painted.
+/// Bytes of the heap that a band takes once it was painted, in a program that had none before.
 template<typename Table>
 double memoryOfBand(Table *table, int count)
 {
-    table->clear();
     table->settle();
-    OwnTimeTable::forgetKeptLabels();
-    const auto before = mallinfo2().uordblks;
+    const auto inUse = [] {
+        const auto info = mallinfo2();
+        return info.uordblks + info.hblkhd;
+    };
+    const auto before = inUse();
     table->load(DenseDay::bands(count));
     table->settle();
     table->repaint();
-    return static_cast<double>(mallinfo2().uordblks - before) / count;
+    return static_cast<double>(inUse() - before) / count;
 }
 
-void addMemory(Bench::Table *table, int count, OwnTimeTable *own, BareTimeTable *bare)
+void printMemory(int count, bool plain)
+{
+    OwnTimeTable own(0);
+    if (plain) {
+        BareTimeTable bare(own.viewSize());
+        std::printf("%f\n", memoryOfBand(&bare, count));
+    } else {
+        std::printf("%f\n", memoryOfBand(&own, count));
+    }
+}
+
+double memoryInOwnProcess(int count, bool plain)
+{
+    QStringList arguments{QStringLiteral("--memory"), QString::number(count)};
+    if (plain)
+        arguments.append(QStringLiteral("--bare"));
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    process.waitForFinished(-1);
+    bool ok = false;
+    const double bytes = process.readAllStandardOutput().trimmed().toDouble(&ok);
+    if (!ok)
+        qFatal("cannot measure the memory of a band");
+    return bytes;
+}
+
+void addMemory(Bench::Table *table, int count)
 {
     constexpr int pairs = 3;
     table->addFigures(
         {QStringLiteral("memory a band, bytes / bare"), count, memoryGoal},
-        [=] { return memoryOfBand(bare, count); }, [=] { return memoryOfBand(own, count); }, pairs);
+        [count] { return memoryInOwnProcess(count, true); },
+        [count] { return memoryInOwnProcess(count, false); }, pairs);
 }
 
 void measure(Bench::Table *table, int count, const QStringList &names)
@@ -126,7 +159,7 @@ void measure(Bench::Table *table, int count, const QStringList &names)
             addFigure(table, figure, count, ownOperations, bareOperations);
     }
     if (count >= leastCountOfMemory && isWanted("memory"))
-        addMemory(table, count, &own, &bare);
+        addMemory(table, count);
 }
 
 void doOnce(const Operation &operation)
@@ -172,6 +205,10 @@ int main(int argc, char *argv[])
     if (arguments.value(1) == QLatin1String("--once")) {
         doOnce(arguments.value(2).split(QLatin1Char(',')), arguments.value(3).toInt(),
                arguments.contains(QStringLiteral("--bare")));
+        return 0;
+    }
+    if (arguments.value(1) == QLatin1String("--memory")) {
+        printMemory(arguments.value(2).toInt(), arguments.contains(QStringLiteral("--bare")));
         return 0;
     }
     Bench::Table table(arguments);

@@ -16,7 +16,7 @@ inline QList<Zavo::ZvTime> bands(int count, int shift = 0)
 {
     QList<Zavo::ZvTime> times;
     times.reserve(count);
-    const int distance = MillisecondsCovered / count;
+    const int distance = MillisecondsCovered / qMax(1, count);
     for (int i = 0; i < count; ++i) {
         const QTime start = QTime::fromMSecsSinceStartOfDay(i * distance);
         times.append({start, start.addMSecs(distance / 2),

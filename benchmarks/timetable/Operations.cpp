@@ -176,6 +176,28 @@ Operation undoMoveOperation(OwnTimeTable *table)
             }};
 }
 
+/// A table that gives way to another one of as many bands, all different.
+QVector<Operation> resetOperations(OwnTimeTable *table, int count)
+{
+    const QList<ZvTime> bands = DenseDay::bands(count);
+    const QList<ZvTime> others = DenseDay::bands(count, 1);
+    const auto isFull = [table, bands] { fill(table, bands); };
+    const auto reset = [table, others] {
+        table->reset(others);
+        table->settle();
+    };
+    const auto isReset = [isFull, reset] {
+        isFull();
+        reset();
+    };
+    const auto undo = [table] {
+        table->undo();
+        table->settle();
+    };
+    return {{QStringLiteral("reset"), isFull, reset, isFull},
+            {QStringLiteral("undoReset"), isReset, undo, isFull}};
+}
+
 } // namespace
 
 QVector<Operation> operationsOf(OwnTimeTable *table, int count)
@@ -196,6 +218,7 @@ QVector<Operation> operationsOf(OwnTimeTable *table, int count)
     });
     operations += halfOperations(table, bands);
     operations += undoMoveOperation(table);
+    operations += resetOperations(table, count);
     operations += clipboardOperations(table, bands);
     return operations;
 }

@@ -141,6 +141,13 @@ void OwnTimeTable::paste()
                                         m_area.get()));
 }
 
+void OwnTimeTable::reset(const QList<ZvTime> &times)
+{
+    const QString stage = m_area->defaultStageName();
+    push(new UndoCommand::ResetTimeTable(stage, stage, m_area->currentTimes(), times,
+                                         m_area->currentScheduleInfo(), m_area.get()));
+}
+
 void OwnTimeTable::undo()
 {
     m_area->undoStack()->undo();

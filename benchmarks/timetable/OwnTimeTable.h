@@ -46,6 +46,8 @@ public:
     /// Cuts the selection, and pastes it at the start of the day, as steps of undo.
     void cut();
     void paste();
+    /// Puts @p times in the place of the whole table, as a step of undo.
+    void reset(const QList<Zavo::ZvTime> &times);
     void undo();
     void redo();
 
