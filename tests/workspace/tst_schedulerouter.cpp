@@ -54,6 +54,7 @@ private Q_SLOTS:
     void orderAtTabChange();
     void switchSlots();
     void scheduleActionsFollowTheSchedule();
+    void scheduleActionsFollowTheTab();
     void createAndRemoveSchedule();
     void createButtonOfThePage();
     void defaultStage();
@@ -168,6 +169,25 @@ void tst_ScheduleRouter::scheduleActionsFollowTheSchedule()
     main.tabs()->setCurrentIndex(1);
     QVERIFY(create->isEnabled());
     QVERIFY(!remove->isEnabled());
+}
+
+// Each page shows the same day already, so none of them reports anything when it comes back.
+void tst_ScheduleRouter::scheduleActionsFollowTheTab()
+{
+    MainWidgetFixture main({CreateSchedule, DeleteSchedule});
+    makeTabs(main);
+    main.choice = ZvScheduleBasicInfo(Day);
+    main.tabs()->setCurrentIndex(2);
+    main.widget->createScheduleByCurrentInfo();
+    main.tabs()->setCurrentIndex(1);
+    for (const int tab : {2, 1, 2}) {
+        main.tabs()->setCurrentIndex(tab);
+        QCOMPARE(main.actions[0]->isEnabled(), tab == 1);
+        QCOMPARE(main.actions[1]->isEnabled(), tab == 2);
+    }
+    main.tabs()->setCurrentIndex(2);
+    main.tabs()->moveTab(2, 1);
+    QVERIFY(!main.actions[0]->isEnabled());
 }
 
 void tst_ScheduleRouter::createAndRemoveSchedule()

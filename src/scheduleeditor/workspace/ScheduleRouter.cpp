@@ -89,6 +89,8 @@ void ScheduleRouter::showWorkingArea(ZvScheduleWorkingArea *area)
     ZvScheduleBasicInfo info;
     Q_EMIT requestCurrentScheduleType(&info);
     switchTo(area, info);
+    // A page that shows that schedule already does not report it again.
+    onCurrentScheduleEnabledChanged(area->isCurrentScheduleEnabled());
 }
 
 // Commands to the page of the current tab
