@@ -22,7 +22,6 @@ constexpr int MinimumStageLabelSize = 24; // px
 constexpr int PanelMargin = 6;            // px
 constexpr int PanelSpacing = 4;           // px
 constexpr int MillisecondsPerSecond = 1000;
-constexpr int TruncationTolerance = 5; // ms
 
 QTime dayStart()
 {
@@ -32,16 +31,6 @@ QTime dayStart()
 QTime timeAt(int milliseconds)
 {
     return QTime::fromMSecsSinceStartOfDay(milliseconds);
-}
-
-// Geometry gives times back truncated, often a millisecond short of the second that was meant.
-QTime shownTime(QTime time)
-{
-    const int milliseconds = time.msecsSinceStartOfDay();
-    const int missing = MillisecondsPerSecond - milliseconds % MillisecondsPerSecond;
-    const bool isMeant =
-        missing <= TruncationTolerance && milliseconds + missing < TimeAxis::millisecondsPerDay;
-    return isMeant ? time.addMSecs(missing) : time;
 }
 
 // Opened first, since a minimum is held below the maximum of before.
@@ -221,8 +210,8 @@ void ZvScheduleItemPropertyWidget::clear()
 void ZvScheduleItemPropertyWidget::showItem(ZvTimeTableTimeItem *item)
 {
     const int shortest = m_minimumDuration * MillisecondsPerSecond;
-    const QTime start = shownTime(item->startTime());
-    const QTime end = shownTime(item->endTime());
+    const QTime start = item->startTime();
+    const QTime end = item->endTime();
     const QTime lower = item->minimumStartTime();
     const QTime upper = item->maximumEndTime();
     const QTime lastStart = timeAt(qMax(upper.msecsSinceStartOfDay() - shortest, 0));
@@ -236,8 +225,8 @@ void ZvScheduleItemPropertyWidget::showItem(ZvTimeTableTimeItem *item)
 
 void ZvScheduleItemPropertyWidget::showItems(const QList<ZvTimeTableTimeItem *> &items)
 {
-    const QTime start = shownTime(items.first()->startTime());
-    const QTime end = shownTime(items.last()->endTime());
+    const QTime start = items.first()->startTime();
+    const QTime end = items.last()->endTime();
     setExactRange(m_startTimeWidget, start, start);
     m_startTimeWidget->setTime(start);
     setExactRange(m_endTimeWidget, end, end);
@@ -260,7 +249,7 @@ void ZvScheduleItemPropertyWidget::onStartTimeChanged(QTime oldTime, QTime newTi
     const QScopedValueRollback<bool> changing(m_changing, true);
     if (const ZvTimeTableTimeItem *item = editedItem(m_startTimeWidget)) {
         const int shortest = m_minimumDuration * MillisecondsPerSecond;
-        const QTime end = shownTime(item->endTime());
+        const QTime end = item->endTime();
         QTime start = newTime;
         if (newTime.msecsTo(end) < shortest) {
             start = timeAt(qMax(end.msecsSinceStartOfDay() - shortest, 0));
@@ -280,7 +269,7 @@ void ZvScheduleItemPropertyWidget::onEndTimeChanged(QTime oldTime, QTime newTime
     const QScopedValueRollback<bool> changing(m_changing, true);
     if (const ZvTimeTableTimeItem *item = editedItem(m_endTimeWidget)) {
         const int shortest = m_minimumDuration * MillisecondsPerSecond;
-        const QTime start = shownTime(item->startTime());
+        const QTime start = item->startTime();
         QTime end = newTime;
         if (start.msecsTo(newTime) < shortest) {
             const QTime earliest = timeAt(start.msecsSinceStartOfDay() + shortest);
