@@ -395,10 +395,14 @@ void tst_ChannelDialogs::firstTabStays()
 {
     MainWidgetFixture main;
     main.createTabs(Names);
-    DialogVisit visit([](QDialog *) {});
+    DialogVisit visit([](QDialog *dialog) {
+        QCOMPARE(dialog->findChild<QComboBox *>()->count(), Names.size() - 1);
+        press(dialog, QDialogButtonBox::Ok);
+    });
     main.widget->showChangeChannelOrderDialog();
-    QVERIFY(!visit.isSeen());
+    QVERIFY(visit.isSeen());
     QCOMPARE(main.tabTexts(), Names);
+    QCOMPARE(main.tabs()->currentIndex(), 0);
 }
 
 void tst_ChannelDialogs::orderWithoutTabs()

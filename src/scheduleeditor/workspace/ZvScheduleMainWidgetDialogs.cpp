@@ -16,7 +16,7 @@ void ZvScheduleMainWidget::showChangeChannelOrderDialog()
         return;
     m_tabWidget->finishEditing();
     const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
-    if (!area || m_tabWidget->currentIndex() == 0)
+    if (!area)
         return;
     const QList<ZvChannel *> targets = channelsToChangePlacesWith();
     // Not on the stack: the dialog runs an event loop, in which this may be deleted, and it too.
@@ -29,7 +29,8 @@ void ZvScheduleMainWidget::showChangeChannelOrderDialog()
         return;
     const int from = m_tabWidget->indexOf(area);
     const int to = placeOfIndex(target, from);
-    if (to > 0)
+    // The basic channel keeps its place.
+    if (from > 0 && to > 0)
         moveTabTo(from, to);
 }
 
