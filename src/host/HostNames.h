@@ -5,6 +5,9 @@ namespace Zavo::HostNames {
 
 constexpr char helpMenu[] = "Menu_Help";
 constexpr char tabWidget[] = "ScheduleTabWidget";
+constexpr char saveAction[] = "Action_Save_Channel";
+constexpr char saveAllAction[] = "Action_Save_All_Channel";
+constexpr char aboutAction[] = "Action_About";
 
 /// The actions behind which lies something that this program does not offer.
 constexpr const char *actionsNotOffered[] = {

@@ -65,7 +65,7 @@ ZvScheduleEditor *HostWindow::editor() const
 
 bool HostWindow::endSession(bool mayAsk)
 {
-    if (!mayAsk && !m_editorClosed)
+    if (!m_editorClosed && (!mayAsk || m_busyCount > 0))
         return false;
     closeEditor();
     return true;
@@ -118,7 +118,9 @@ QMenu *HostWindow::createHelpMenu()
 {
     auto *const menu = new QMenu(tr("&Help"), this);
     menu->setObjectName(QLatin1String(HostNames::helpMenu));
-    menu->addAction(tr("&About Zavo Schedule Editor"), m_editor, SLOT(showVersionInformation()));
+    menu->addAction(
+        tr("&About Zavo Schedule Editor"), m_editor,
+        SLOT(showVersionInformation()))->setObjectName(QLatin1String(HostNames::aboutAction));
     menu->addAction(tr("About &Qt"), qApp, SLOT(aboutQt()));
     return menu;
 }
@@ -147,7 +149,7 @@ void HostWindow::disableWhatIsNotOffered()
 void HostWindow::closeEditor()
 {
     // The editor asks in a loop of its own, in which the window can be told again to close.
-    if (m_closing || m_editorClosed)
+    if (m_closing || m_editorClosed || m_busyCount > 0)
         return;
     m_closing = true;
     m_editor->close();

@@ -17,6 +17,23 @@ class HostWindow final : public QMainWindow
     Q_OBJECT
 
 public:
+    /// While one lives, the window does not close: something asks in the middle of a save.
+    class Busy final
+    {
+        Q_DISABLE_COPY(Busy)
+
+    public:
+        explicit Busy(HostWindow *window)
+            : m_window(window)
+        {
+            ++m_window->m_busyCount;
+        }
+        ~Busy() { --m_window->m_busyCount; }
+
+    private:
+        HostWindow *m_window = nullptr;
+    };
+
     explicit HostWindow(QWidget *parent = nullptr);
 
     /// Gives up the editor without asking about unsaved channels; closing the window asks.
@@ -29,7 +46,8 @@ public:
     ZvScheduleEditor *editor() const;
 
     /// The session is about to end. Closes the editor, which asks about unsaved channels, if
-    /// @p mayAsk. False if the session should wait because the user could not be asked.
+    /// @p mayAsk. False if the session should wait because the user could not be asked, or is just
+    /// being asked something else.
     bool endSession(bool mayAsk);
 
 public Q_SLOTS:
@@ -59,6 +77,7 @@ private:
     ScenePurger *m_scenePurger = nullptr;
     ZvScheduleEditor *m_editor = nullptr;
     UploadDialog *m_uploadDialog = nullptr; // null until it is first asked for
+    int m_busyCount = 0;
     bool m_closing = false;
     bool m_editorClosed = false;
 };

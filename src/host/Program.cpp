@@ -6,7 +6,13 @@
 #include "HostWindow.h"
 #include "ScreenshotTaker.h"
 #include "ZvEditorConfig.h"
+#include "safety/DataFolderLock.h"
+#include "safety/FolderInUseBox.h"
+#include "safety/SafetyDesk.h"
+#include "safety/SafetyNet.h"
 
+#include <QDir>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QSessionManager>
@@ -53,8 +59,8 @@ int Program::run()
         return fail(tr("\"%1\" is the name of no language.").arg(m_commandLine.language()));
     if (!m_commandLine.dataDir().isEmpty())
         ZvEditorConfig::setDataDir(m_commandLine.dataDir());
-    const QString problem = DataFolderCheck().problem(ZvEditorConfig::dataDir());
-    return problem.isEmpty() ? runWindow() : fail(problem);
+    const int exitCode = openDataFolder();
+    return exitCode == Done ? runWindows() : exitCode;
 }
 
 void Program::onScreenshotDone(bool written, const QString &message)
@@ -70,16 +76,71 @@ void Program::onCommitDataRequest(QSessionManager &manager)
         manager.cancel();
 }
 
-int Program::runWindow()
+int Program::openDataFolder()
+{
+    for (;;) {
+        const QString dataDir = ZvEditorConfig::dataDir();
+        const QString problem = DataFolderCheck().problem(dataDir);
+        if (!problem.isEmpty())
+            return fail(problem);
+        // A folder that cannot be made is told of by the editor.
+        QDir().mkpath(dataDir);
+        m_lock = std::make_unique<DataFolderLock>(dataDir);
+        if (m_lock->take() != DataFolderLock::Result::HeldByOther)
+            return Done;
+        if (!mayAsk())
+            return fail(FolderInUseBox::sentence(dataDir, *m_lock), InUse);
+        const int exitCode = askAboutFolderInUse();
+        if (exitCode != Done)
+            return exitCode;
+    }
+}
+
+int Program::askAboutFolderInUse()
+{
+    const QString dataDir = ZvEditorConfig::dataDir();
+    switch (FolderInUseBox(dataDir, *m_lock).exec()) {
+    case FolderInUseBox::TryAgain:
+        return Done;
+    case FolderInUseBox::TakeOver:
+        m_lock->takeOver();
+        return Done;
+    case FolderInUseBox::ChooseAnother: {
+        const QString folder =
+            QFileDialog::getExistingDirectory(nullptr, tr("Data Folder"), dataDir);
+        if (!folder.isEmpty())
+            ZvEditorConfig::setDataDir(folder);
+        return Done;
+    }
+    default:
+        return InUse;
+    }
+}
+
+int Program::runWindows()
+{
+    SafetyNet net(ZvEditorConfig::dataDir());
+    int exitCode = Done;
+    do {
+        m_isToOpenAnew = false;
+        exitCode = runWindow(&net);
+    } while (m_isToOpenAnew);
+    return exitCode;
+}
+
+int Program::runWindow(SafetyNet *net)
 {
     m_window = std::make_unique<HostWindow>();
     connect(m_window.get(), SIGNAL(finished()), qApp, SLOT(quit()), Qt::QueuedConnection);
     // The session manager reads the answer when the signal returns.
     connect(qApp, SIGNAL(commitDataRequest(QSessionManager&)), this,
-                         SLOT(onCommitDataRequest(QSessionManager&)), Qt::DirectConnection);
+                         SLOT(onCommitDataRequest(QSessionManager&)),
+                              Qt::ConnectionType(Qt::DirectConnection | Qt::UniqueConnection));
     QString message;
     if (!m_window->start(&message))
         return fail(message);
+    auto desk = std::make_unique<SafetyDesk>(ZvEditorConfig::dataDir(), net, m_window.get());
+    tellOfLeftSession(*net, desk.get());
     ScreenshotTaker screenshot(m_window.get(), m_commandLine.screenshotFile());
     if (m_commandLine.wish() == CommandLine::Wish::Screenshot) {
         connect(&screenshot, SIGNAL(done(bool,QString)), this,
@@ -88,16 +149,46 @@ int Program::runWindow()
     }
     m_window->show();
     const int exitCode = QCoreApplication::exec();
+    const std::optional<BackupState> wanted = desk->wantedState();
+    desk.reset();
     m_window.reset();
+    if (wanted)
+        restore(*wanted);
     return exitCode;
 }
 
-int Program::fail(const QString &message) const
+void Program::restore(const BackupState &state)
+{
+    m_isToOpenAnew = true;
+    if (!SafetyDesk::restore(ZvEditorConfig::dataDir(), state)) {
+        fail(tr("The channel file \"%1\" cannot be restored. It is as it was before.")
+                 .arg(state.fileName));
+    }
+}
+
+void Program::tellOfLeftSession(const SafetyNet &net, SafetyDesk *desk)
+{
+    if (m_toldOfLeftSession || !net.leftSession())
+        return;
+    m_toldOfLeftSession = true;
+    const QString sentence = SessionRecord::sentence(*net.leftSession());
+    if (mayAsk())
+        desk->tell(sentence);
+    else
+        write(stderr, sentence);
+}
+
+bool Program::mayAsk() const
+{
+    return Display::isSeen() && m_commandLine.wish() == CommandLine::Wish::Edit;
+}
+
+int Program::fail(const QString &message, ExitCode exitCode) const
 {
     write(stderr, QStringLiteral("%1: %2").arg(QCoreApplication::applicationName(), message));
-    if (Display::isSeen() && m_commandLine.wish() == CommandLine::Wish::Edit)
+    if (mayAsk())
         QMessageBox::critical(m_window.get(), QGuiApplication::applicationDisplayName(), message);
-    return 1;
+    return exitCode;
 }
 
 } // namespace Zavo

@@ -10,7 +10,11 @@ class QSessionManager;
 
 namespace Zavo {
 
+class DataFolderLock;
 class HostWindow;
+class SafetyDesk;
+class SafetyNet;
+struct BackupState;
 
 /// One run of the program, from its command line to its exit code.
 class Program final : public QObject
@@ -23,7 +27,7 @@ public:
     ~Program() override;
 
     /// Runs the event loop if the command line asks for more than a text; returns the exit code: 0,
-    /// or 1 if what was asked for could not be done.
+    /// 1 if what was asked for could not be done, or 3 if another program has the data folder open.
     int run();
 
 private Q_SLOTS:
@@ -31,12 +35,26 @@ private Q_SLOTS:
     void onCommitDataRequest(QSessionManager &manager);
 
 private:
-    int runWindow();
-    /// Tells the user why the program ends and returns the exit code for that.
-    int fail(const QString &message) const;
+    enum ExitCode { Done = 0, Failed = 1, InUse = 3 };
+
+    /// Done once the data folder belongs to this program alone.
+    int openDataFolder();
+    /// Done if it is worth another try, with another folder or with this one.
+    int askAboutFolderInUse();
+    int runWindows();
+    int runWindow(SafetyNet *net);
+    void restore(const BackupState &state);
+    void tellOfLeftSession(const SafetyNet &net, SafetyDesk *desk);
+    /// True if a person sits before the window.
+    bool mayAsk() const;
+    /// Tells the user why the program ends and returns @p exitCode.
+    int fail(const QString &message, ExitCode exitCode = Failed) const;
 
     CommandLine m_commandLine;
+    std::unique_ptr<DataFolderLock> m_lock;
     std::unique_ptr<HostWindow> m_window;
+    bool m_isToOpenAnew = false;
+    bool m_toldOfLeftSession = false;
 };
 
 } // namespace Zavo

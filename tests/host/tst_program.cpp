@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QImage>
+#include <QLockFile>
 #include <QProcess>
 #include <QtTest>
 
@@ -38,6 +39,9 @@ private Q_SLOTS:
     void neverTakesATroubledFolderForAnEmptyOne();
     void tellsOfAScreenshotThatCannotBeWritten();
     void needsADisplayForItsWindow();
+    void leavesAFolderThatIsInUse();
+    void endsProperly();
+    void tellsOfASessionThatDidNotEnd();
 
 private:
     Run run(const QStringList &arguments,
@@ -223,6 +227,59 @@ void tst_Program::needsADisplayForItsWindow()
     QCOMPARE(result.exitCode, 1);
     QVERIFY2(result.errors.contains(QStringLiteral("no display")), qPrintable(result.errors));
     QVERIFY(m_folder->names().isEmpty());
+}
+
+void tst_Program::leavesAFolderThatIsInUse()
+{
+    const QString picture = m_folder->filePath(QStringLiteral("picture.png"));
+    const QStringList arguments{QStringLiteral("--data-dir"), data(),
+                                QStringLiteral("--screenshot"), picture};
+    {
+        QLockFile lock(m_folder->filePath(QStringLiteral(".zavo-lock")));
+        QVERIFY(lock.tryLock(0));
+        const Run result = run(arguments);
+        QCOMPARE(result.exitCode, 3);
+        QVERIFY2(result.errors.contains(data()), qPrintable(result.errors));
+        QVERIFY2(result.errors.contains(QString::number(QCoreApplication::applicationPid())),
+                 qPrintable(result.errors));
+        QVERIFY(!QFile::exists(picture));
+        QCOMPARE(m_folder->names(), QStringList(QStringLiteral(".zavo-lock")));
+    }
+    QCOMPARE(run(arguments).exitCode, 0);
+}
+
+void tst_Program::endsProperly()
+{
+    QProcess dead;
+    dead.start(QStringLiteral("sh"), {QStringLiteral("-c"), QStringLiteral("echo $$")});
+    QVERIFY(dead.waitForFinished());
+    const QString number = QString::fromLatin1(dead.readAll().trimmed());
+    m_folder->copyFrom(QStringLiteral(ZAVO_SOURCE_DIR "/examples/data"));
+    m_folder->write(QStringLiteral("channel/.zavo-%1-0.tmp").arg(number), "half");
+    const QStringList before = m_folder->names();
+    const Run result = run({QStringLiteral("--data-dir"), data(), QStringLiteral("--screenshot"),
+                            m_folder->filePath(QStringLiteral("picture.png"))});
+    QVERIFY2(result.exitCode == 0, qPrintable(result.errors));
+    QVERIFY2(!result.errors.contains(QStringLiteral("session")), qPrintable(result.errors));
+    QStringList after = m_folder->names();
+    QVERIFY(after.removeOne(QStringLiteral("backup")));
+    QVERIFY(after.removeOne(QStringLiteral("picture.png")));
+    QCOMPARE(after, before);
+    const QStringList channels = m_folder->names(QStringLiteral("channel"));
+    QCOMPARE(m_folder->names(QStringLiteral("backup")), channels);
+}
+
+void tst_Program::tellsOfASessionThatDidNotEnd()
+{
+    m_folder->write(QStringLiteral(".zavo-session"),
+                    R"({"started": "2026-11-21T04:05:00", "unsavedChannels": ["Lobby"]})");
+    const QStringList arguments{QStringLiteral("--data-dir"), data(),
+                                QStringLiteral("--screenshot"),
+                                m_folder->filePath(QStringLiteral("picture.png"))};
+    const Run result = run(arguments);
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.errors.contains(QStringLiteral("lost in: Lobby.")), qPrintable(result.errors));
+    QVERIFY(!run(arguments).errors.contains(QStringLiteral("session")));
 }
 
 QTEST_GUILESS_MAIN(tst_Program)

@@ -1,0 +1,190 @@
+#include "safety/BackupStore.h"
+
+#include "Path.h"
+#include "ZvNaturalOrder.h"
+#include "storage/BoundedFile.h"
+#include "storage/ChannelFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Zavo {
+
+namespace {
+
+const QLatin1String backupFolderName("backup");
+const QLatin1String momentFormat("yyyy-MM-ddTHH-mm-ss.zzz");
+const QLatin1String copySuffix("Z.xml");
+const QLatin1String incomingName(".incoming");
+
+/// The moment in which the copy was made; invalid if the name is none of a copy.
+QDateTime momentOf(const QString &copyName)
+{
+    if (!copyName.endsWith(copySuffix))
+        return {};
+    QDateTime moment =
+        QDateTime::fromString(copyName.chopped(copySuffix.size()), QString(momentFormat));
+    moment.setTimeSpec(Qt::UTC);
+    return moment;
+}
+
+bool hasBytes(const QString &path, const QByteArray &bytes)
+{
+    QByteArray read;
+    return QFileInfo(path).size() == bytes.size() &&
+           BoundedFile::read(path, ChannelFile::MaximumBytes, &read) && read == bytes;
+}
+
+} // namespace
+
+BackupStore::BackupStore(const QString &dataDir)
+    : m_folder(QDir(Path::combine(dataDir, backupFolderName)).absolutePath())
+{
+}
+
+QStringList BackupStore::fileNames() const
+{
+    QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    std::sort(names.begin(), names.end(), [](const QString &left, const QString &right) {
+        return ZvNaturalOrder::compare(left, right) < 0;
+    });
+    return names;
+}
+
+QList<BackupState> BackupStore::states(const QString &fileName) const
+{
+    const QMutexLocker locker(&m_mutex);
+    QList<BackupState> states;
+    const QStringList copies = copiesOf(fileName);
+    for (const QString &copy : copies) {
+        const QString path = Path::combine(folderOf(fileName), copy);
+        states.append({fileName, path, QFileInfo(path).lastModified()});
+    }
+    return states;
+}
+
+QString BackupStore::lastError() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_lastError;
+}
+
+BackupStore::Result BackupStore::keep(const QString &filePath)
+{
+    const QMutexLocker locker(&m_mutex);
+    const QFileInfo info(filePath);
+    const FileStamp stamp = FileStamp::of(filePath);
+    if (!stamp.exists())
+        return Result::Unchanged;
+    const Kept known = m_kept.value(info.fileName());
+    if (known.stamp == stamp && QFile::exists(known.copy))
+        return Result::Unchanged;
+    QByteArray bytes;
+    if (!BoundedFile::read(filePath, ChannelFile::MaximumBytes, &bytes))
+        return fail(QStringLiteral("%1: %2").arg(info.fileName(), qt_error_string(errno)));
+    const Result result = keepState(info.fileName(), bytes, info.lastModified());
+    // A file that was written to while it was read is looked at again.
+    if (result != Result::Failed && FileStamp::of(filePath) == stamp) {
+        m_kept.insert(info.fileName(), {stamp, Path::combine(folderOf(info.fileName()),
+                                                             copiesOf(info.fileName()).value(0))});
+    }
+    return result;
+}
+
+BackupStore::Result BackupStore::keepBytes(const QString &fileName, const QByteArray &bytes)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_kept.remove(fileName);
+    return keepState(fileName, bytes, QDateTime::currentDateTime());
+}
+
+void BackupStore::sync() const
+{
+    const int folder =
+        ::open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    ::syncfs(folder);
+    ::close(folder);
+}
+
+QString BackupStore::folderOf(const QString &fileName) const
+{
+    return Path::combine(m_folder, fileName);
+}
+
+QStringList BackupStore::copiesOf(const QString &fileName) const
+{
+    QStringList copies =
+        QDir(folderOf(fileName)).entryList(QDir::Files, QDir::Name | QDir::Reversed);
+    copies.erase(std::remove_if(copies.begin(), copies.end(),
+                                [](const QString &name) { return !momentOf(name).isValid(); }),
+                 copies.end());
+    return copies;
+}
+
+BackupStore::Result BackupStore::keepState(const QString &fileName, const QByteArray &bytes,
+                                           const QDateTime &modified)
+{
+    const QString folder = folderOf(fileName);
+    if (!QDir().mkpath(folder))
+        return fail(tr("The folder \"%1\" cannot be made.").arg(QDir::toNativeSeparators(folder)));
+    const QStringList copies = copiesOf(fileName);
+    const auto same = std::find_if(copies.cbegin(), copies.cend(), [&](const QString &copy) {
+        return hasBytes(Path::combine(folder, copy), bytes);
+    });
+    if (same != copies.cend() && same == copies.cbegin())
+        return Result::Unchanged;
+    const QString path = pathOfNext(fileName, copies);
+    if (!write(path, bytes, modified))
+        return Result::Failed;
+    if (same != copies.cend())
+        QFile::remove(Path::combine(folder, *same));
+    removeOldest(fileName);
+    return Result::Kept;
+}
+
+// Later than every other, also if the clock was put back.
+QString BackupStore::pathOfNext(const QString &fileName, const QStringList &copies) const
+{
+    QDateTime moment = QDateTime::currentDateTimeUtc();
+    if (!copies.isEmpty())
+        moment = qMax(moment, momentOf(copies.constFirst()).addMSecs(1));
+    return Path::combine(folderOf(fileName), moment.toString(QString(momentFormat)) + copySuffix);
+}
+
+bool BackupStore::write(const QString &path, const QByteArray &bytes, const QDateTime &modified)
+{
+    QFile file(Path::combine(QFileInfo(path).path(), incomingName));
+    const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+                         file.write(bytes) == bytes.size() && file.flush() &&
+                         file.setFileTime(modified, QFileDevice::FileModificationTime);
+    const QString reason = file.errorString();
+    file.close();
+    if (written && file.error() == QFileDevice::NoError && file.rename(path))
+        return true;
+    fail(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), reason));
+    file.remove();
+    return false;
+}
+
+void BackupStore::removeOldest(const QString &fileName)
+{
+    const QStringList copies = copiesOf(fileName);
+    for (int index = MaximumEarlierStates + 1; index < copies.size(); ++index)
+        QFile::remove(Path::combine(folderOf(fileName), copies.at(index)));
+}
+
+BackupStore::Result BackupStore::fail(const QString &reason)
+{
+    m_lastError = reason;
+    return Result::Failed;
+}
+
+} // namespace Zavo

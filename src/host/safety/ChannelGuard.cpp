@@ -1,0 +1,70 @@
+#include "safety/ChannelGuard.h"
+
+#include "safety/BackupStore.h"
+#include "safety/ChannelStates.h"
+#include "storage/BoundedFile.h"
+#include "storage/ChannelFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+#include <cerrno>
+
+namespace Zavo {
+
+ChannelGuard::ChannelGuard(ChannelStates *states, BackupStore *store)
+    : m_states(states)
+    , m_store(store)
+{
+    FileSystemCalls::setCurrent(this);
+}
+
+ChannelGuard::~ChannelGuard()
+{
+    FileSystemCalls::setCurrent(nullptr);
+}
+
+void ChannelGuard::setQuestion(const Question &question)
+{
+    m_question = question;
+}
+
+int ChannelGuard::rename(const char *from, const char *to)
+{
+    const QString filePath = QFile::decodeName(to);
+    if (!m_states->isChannelFile(filePath))
+        return FileSystemCalls::rename(from, to);
+    if (m_states->isChangedByOthers(filePath) && !mayReplace(filePath)) {
+        keepRefused(filePath, QFile::decodeName(from));
+        errno = ECANCELED;
+        return -1;
+    }
+    // What the other program did while the question was open goes no other way.
+    m_store->keep(filePath);
+    const int result =
+        m_states->replaceByOurs(filePath, [&] { return FileSystemCalls::rename(from, to); });
+    const int error = errno;
+    // At once, since the next that happens to the file may be its removal.
+    if (result == 0)
+        m_store->keep(filePath);
+    errno = error;
+    return result;
+}
+
+bool ChannelGuard::mayReplace(const QString &filePath) const
+{
+    return m_question && QThread::currentThread() == qApp->thread() && m_question(filePath);
+}
+
+void ChannelGuard::keepRefused(const QString &filePath, const QString &newFilePath)
+{
+    QByteArray bytes;
+    if (BoundedFile::read(newFilePath, ChannelFile::MaximumBytes, &bytes))
+        m_store->keepBytes(QFileInfo(filePath).fileName(), bytes);
+    // The present state is the newest again.
+    m_store->keep(filePath);
+}
+
+} // namespace Zavo

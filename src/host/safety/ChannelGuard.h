@@ -1,0 +1,47 @@
+#pragma once
+
+#include "storage/FileSystemCalls.h"
+
+#include <QtGlobal>
+
+#include <functional>
+
+class QString;
+
+namespace Zavo {
+
+class ChannelStates;
+class BackupStore;
+
+/// Stands before every channel file that this program replaces, while it lives: the state that is
+/// about to go is copied first, and if it is another program's, the user is asked.
+class ChannelGuard final : public FileSystemCalls
+{
+    Q_DISABLE_COPY(ChannelGuard)
+
+public:
+    /// Whether the state that another program gave this file may be replaced.
+    using Question = std::function<bool(const QString &filePath)>;
+
+    /// Both must outlive this object, which is made and deleted while no other thread writes files.
+    ChannelGuard(ChannelStates *states, BackupStore *store);
+    ~ChannelGuard() override;
+
+    /// Asked on the GUI thread. Without a question, and on other threads, nothing of another
+    /// program is replaced.
+    void setQuestion(const Question &question);
+
+    /// Replaces a channel file only if nobody objects; otherwise it fails with ECANCELED, and what
+    /// should have been written is kept among the copies.
+    int rename(const char *from, const char *to) override;
+
+private:
+    bool mayReplace(const QString &filePath) const;
+    void keepRefused(const QString &filePath, const QString &newFilePath);
+
+    ChannelStates *m_states = nullptr;
+    BackupStore *m_store = nullptr;
+    Question m_question;
+};
+
+} // namespace Zavo

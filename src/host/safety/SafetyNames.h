@@ -1,0 +1,14 @@
+#pragma once
+
+/// Object names of what is shown for safety's sake.
+namespace Zavo::SafetyNames {
+
+constexpr char copiesAction[] = "Action_Safety_Copies";
+constexpr char noticeBar[] = "Safety_Notice_Bar";
+constexpr char noticeLabel[] = "Safety_Notice_Label";
+constexpr char noticeCloseAction[] = "Action_Close_Safety_Notice";
+constexpr char channelList[] = "Safety_Channel_List";
+constexpr char stateTree[] = "Safety_State_Tree";
+constexpr char restoreButton[] = "Safety_Restore_Button";
+
+} // namespace Zavo::SafetyNames

@@ -1,0 +1,442 @@
+#include "safety/SafetyDesk.h"
+
+#include "DialogAnswer.h"
+#include "DragGesture.h"
+#include "HostWindow.h"
+#include "MessageBoxAnswer.h"
+#include "TemporaryDataFolder.h"
+#include "ZvChannel.h"
+#include "ZvSchedule.h"
+#include "editor/ZvScheduleEditor.h"
+#include "safety/BackupDialog.h"
+#include "safety/NoticeBar.h"
+#include "safety/SafetyNet.h"
+#include "safety/SessionRecord.h"
+
+#include <QAction>
+#include <QDir>
+#include <QGraphicsView>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QtTest>
+
+using Zavo::BackupDialog;
+using Zavo::BackupState;
+using Zavo::HostWindow;
+using Zavo::NoticeBar;
+using Zavo::SafetyDesk;
+using Zavo::SafetyNet;
+using Zavo::SessionRecord;
+using Zavo::ZvChannel;
+using Zavo::ZvSchedule;
+using ZavoTest::DialogAnswer;
+using ZavoTest::DragGesture;
+using ZavoTest::MessageBoxAnswer;
+using ZavoTest::TemporaryDataFolder;
+
+namespace {
+constexpr int folderTimeoutMs = 20000;
+} // namespace
+
+/// The safety net under the whole program: the window, the folder, and somebody else.
+class tst_SafetyDesk : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void keepsTheFirstChannels();
+    void recordsUnsavedEdits();
+    void forgetsAnEditThatIsUndone();
+    void tellsTheNextSession();
+    void noticesAnotherProgram();
+    void asksBeforeItSaves_data();
+    void asksBeforeItSaves();
+    void staysOpenWhileItAsks();
+    void keepsWhatTheResetRemoves();
+    void showsTheCopies();
+    void restoresNothingWithoutAWord();
+    void restoresAState();
+    void restoresTheBasicChannelWithItsCopy();
+    void restoresNoDamage();
+    void bringsBackADeletedChannel();
+
+private:
+    void start();
+    void end();
+    void drop(int tab = 0);
+    void trigger(const char *action);
+    void changeAsAnother(int number, const QString &stage);
+    QByteArray channel(int number = 0) const;
+    QStringList unsaved() const;
+    NoticeBar *notices() const { return m_window->findChild<NoticeBar *>(); }
+    static QTreeWidget *states(const BackupDialog *dialog);
+    static QPushButton *restoreButton(const BackupDialog *dialog);
+
+    std::unique_ptr<TemporaryDataFolder> m_folder;
+    std::unique_ptr<SafetyNet> m_net;
+    std::unique_ptr<HostWindow> m_window;
+    std::unique_ptr<SafetyDesk> m_desk;
+};
+
+void tst_SafetyDesk::init()
+{
+    m_folder = std::make_unique<TemporaryDataFolder>();
+    m_folder->writeStage(QStringLiteral("a.xml"));
+    // A schedule that exists on every day, and so takes what is dropped.
+    m_folder->write(QStringLiteral("config.ini"), "[General]\nDefaultScheduleUsedFirst=true\n");
+    start();
+}
+
+void tst_SafetyDesk::cleanup()
+{
+    end();
+    m_folder.reset();
+}
+
+void tst_SafetyDesk::start()
+{
+    m_net = std::make_unique<SafetyNet>(m_folder->path());
+    m_window = std::make_unique<HostWindow>();
+    QString message;
+    QVERIFY2(m_window->start(&message), qPrintable(message));
+    m_desk = std::make_unique<SafetyDesk>(m_folder->path(), m_net.get(), m_window.get());
+    m_window->show();
+    auto *const tabs = m_window->findChild<QTabWidget *>(QStringLiteral("ScheduleTabWidget"));
+    QVERIFY(tabs);
+    QTRY_VERIFY(tabs->count() > 0);
+}
+
+void tst_SafetyDesk::end()
+{
+    m_desk.reset();
+    m_window.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_net.reset();
+}
+
+void tst_SafetyDesk::drop(int tab)
+{
+    auto *const tabs = m_window->findChild<QTabWidget *>(QStringLiteral("ScheduleTabWidget"));
+    tabs->setCurrentIndex(tab);
+    auto *const view = tabs->currentWidget()->findChild<QGraphicsView *>();
+    QVERIFY(view);
+    DragGesture drag(
+        DragGesture::filesMimeData({m_folder->filePath(QStringLiteral("stage/a.xml"))}));
+    const QPointF centre = view->mapToScene(view->viewport()->rect().center());
+    QVERIFY(drag.enter(view, centre));
+    QVERIFY(drag.drop());
+}
+
+void tst_SafetyDesk::trigger(const char *action)
+{
+    QAction *const found = m_window->editor()->getAction(QLatin1String(action));
+    QVERIFY2(found, action);
+    found->trigger();
+}
+
+// By bytes and in place: another program need not be one of ours.
+void tst_SafetyDesk::changeAsAnother(int number, const QString &stage)
+{
+    const QString name = QStringLiteral("channel/channel%1.xml").arg(number);
+    ZvChannel changed(m_folder->filePath(name));
+    QVERIFY(changed.readFile());
+    ZvSchedule schedule;
+    schedule.setType(ZvSchedule::Default);
+    schedule.setDefaultStage(stage);
+    changed.insertSchedule(schedule);
+    changed.setFilePath(m_folder->filePath(QStringLiteral("theirs.xml")));
+    QVERIFY(changed.writeToFile());
+    m_folder->write(name, m_folder->read(QStringLiteral("theirs.xml")));
+}
+
+QByteArray tst_SafetyDesk::channel(int number) const
+{
+    return m_folder->read(QStringLiteral("channel/channel%1.xml").arg(number));
+}
+
+QStringList tst_SafetyDesk::unsaved() const
+{
+    const auto session = SessionRecord(m_folder->path()).read();
+    return session ? session->unsavedChannels : QStringList(QStringLiteral("no record"));
+}
+
+QTreeWidget *tst_SafetyDesk::states(const BackupDialog *dialog)
+{
+    return dialog->findChild<QTreeWidget *>(QStringLiteral("Safety_State_Tree"));
+}
+
+QPushButton *tst_SafetyDesk::restoreButton(const BackupDialog *dialog)
+{
+    return dialog->findChild<QPushButton *>(QStringLiteral("Safety_Restore_Button"));
+}
+
+void tst_SafetyDesk::keepsTheFirstChannels()
+{
+    for (int number = 0; number < 10; ++number) {
+        const auto states = m_net->store()->states(QStringLiteral("channel%1.xml").arg(number));
+        QCOMPARE(states.size(), 1);
+        QCOMPARE(m_folder->read(QDir(m_folder->path()).relativeFilePath(states.constFirst().path)),
+                 channel(number));
+    }
+    QVERIFY(!m_net->leftSession());
+    QVERIFY(notices()->isHidden());
+}
+
+void tst_SafetyDesk::recordsUnsavedEdits()
+{
+    QTRY_COMPARE(unsaved(), QStringList());
+    drop(2);
+    QTRY_COMPARE(unsaved(), QStringList(QStringLiteral("Ch.2")));
+    drop(1);
+    QTRY_COMPARE(unsaved(), QStringList({QStringLiteral("Ch.1"), QStringLiteral("Ch.2")}));
+    trigger("Action_Save_Channel");
+    QTRY_COMPARE(unsaved(), QStringList(QStringLiteral("Ch.2")));
+    trigger("Action_Undo");
+    QTRY_COMPARE(unsaved().size(), 2);
+    trigger("Action_Save_All_Channel");
+    QTRY_COMPARE(unsaved(), QStringList());
+    end();
+    QVERIFY(!QFile::exists(SessionRecord(m_folder->path()).filePath()));
+}
+
+void tst_SafetyDesk::forgetsAnEditThatIsUndone()
+{
+    drop(3);
+    QTRY_COMPARE(unsaved(), QStringList(QStringLiteral("Ch.3")));
+    trigger("Action_Undo");
+    QTRY_COMPARE(unsaved(), QStringList());
+    trigger("Action_Redo");
+    QTRY_COMPARE(unsaved(), QStringList(QStringLiteral("Ch.3")));
+}
+
+void tst_SafetyDesk::tellsTheNextSession()
+{
+    drop(2);
+    QTRY_COMPARE(unsaved(), QStringList(QStringLiteral("Ch.2")));
+    const QString recordName = QFileInfo(SessionRecord(m_folder->path()).filePath()).fileName();
+    const QByteArray record = m_folder->read(recordName);
+    end();
+    // As if the program had been killed instead.
+    m_folder->write(recordName, record);
+    start();
+    const auto left = m_net->leftSession();
+    QVERIFY(left);
+    QCOMPARE(left->unsavedChannels, QStringList(QStringLiteral("Ch.2")));
+    QVERIFY(left->started.isValid());
+    QTRY_COMPARE(unsaved(), QStringList());
+    MessageBoxAnswer box;
+    box.expect(QMessageBox::Ok).text(SessionRecord::sentence(*left));
+    m_desk->tell(SessionRecord::sentence(*left));
+    QTRY_VERIFY(box.isDone());
+}
+
+void tst_SafetyDesk::noticesAnotherProgram()
+{
+    MessageBoxAnswer noBox;
+    const QSize size = m_window->centralWidget()->size();
+    // Not in the first look, which takes everything as it is.
+    QTRY_VERIFY_WITH_TIMEOUT(m_net->store()->fileNames().contains(QStringLiteral("channel.xml")),
+                             folderTimeoutMs);
+    changeAsAnother(3, QStringLiteral("theirs.xml"));
+    QTRY_VERIFY_WITH_TIMEOUT(notices()->isVisible(), folderTimeoutMs);
+    QVERIFY2(notices()->text().contains(QStringLiteral("channel3.xml")),
+             qPrintable(notices()->text()));
+    QCOMPARE(m_net->store()->states(QStringLiteral("channel3.xml")).size(), 2);
+    notices()->findChild<QAction *>(QStringLiteral("Action_Close_Safety_Notice"))->trigger();
+    QVERIFY(notices()->isHidden());
+    QTRY_COMPARE(m_window->centralWidget()->size(), size);
+}
+
+void tst_SafetyDesk::asksBeforeItSaves_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::newRow("yes") << int(QMessageBox::Yes);
+    QTest::newRow("no") << int(QMessageBox::No);
+    QTest::newRow("escape") << int(QMessageBox::NoButton);
+}
+
+void tst_SafetyDesk::asksBeforeItSaves()
+{
+    QFETCH(int, answer);
+    drop();
+    changeAsAnother(0, QStringLiteral("theirs.xml"));
+    const bool isSaved = answer == QMessageBox::Yes;
+    {
+        MessageBoxAnswer box;
+        box.expect(static_cast<QMessageBox::StandardButton>(answer))
+            .text(QStringLiteral("The channel file \"channel0.xml\" was changed by another "
+                                 "program."));
+        if (!isSaved)
+            box.expect(QMessageBox::Ok).title(QStringLiteral("Save Channel"));
+        trigger("Action_Save_Channel");
+        QVERIFY(box.isDone());
+    }
+    QCOMPARE(channel().contains("a.xml"), isSaved);
+    QCOMPARE(channel().contains("theirs.xml"), !isSaved);
+    QByteArray all;
+    const auto kept = m_net->store()->states(QStringLiteral("channel0.xml"));
+    for (const BackupState &state : kept)
+        all += m_folder->read(QDir(m_folder->path()).relativeFilePath(state.path));
+    QVERIFY(all.contains("\"a.xml\""));
+    QVERIFY(all.contains("\"theirs.xml\""));
+}
+
+void tst_SafetyDesk::staysOpenWhileItAsks()
+{
+    drop();
+    changeAsAnother(0, QStringLiteral("theirs.xml"));
+    MessageBoxAnswer box;
+    box.expect(QMessageBox::Yes).whileShown([this](const QMessageBox *) {
+        QVERIFY(!m_window->close());
+        QVERIFY(!m_window->endSession(true));
+        QVERIFY(m_window->isVisible());
+    });
+    trigger("Action_Save_Channel");
+    QVERIFY(channel().contains("a.xml"));
+    QVERIFY(m_window->close());
+}
+
+void tst_SafetyDesk::keepsWhatTheResetRemoves()
+{
+    drop(4);
+    trigger("Action_Save_Channel");
+    const QByteArray saved = channel(4);
+    {
+        MessageBoxAnswer box;
+        box.expect(QMessageBox::Yes);
+        box.expect(QMessageBox::Ok);
+        m_window->editor()->removeAllChannelsAndSettings();
+    }
+    QVERIFY(m_folder->names(QStringLiteral("channel")).isEmpty());
+    const auto kept = m_net->store()->states(QStringLiteral("channel4.xml"));
+    QCOMPARE(kept.size(), 2);
+    QCOMPARE(m_folder->read(QDir(m_folder->path()).relativeFilePath(kept.constFirst().path)),
+             saved);
+}
+
+void tst_SafetyDesk::showsTheCopies()
+{
+    drop(1);
+    trigger("Action_Save_Channel");
+    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) {
+        auto *const channels =
+            dialog->findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
+        QVERIFY(channels->count() >= 10);
+        const auto found = channels->findItems(QStringLiteral("channel1.xml"), Qt::MatchContains);
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(found.constFirst()->text(), QStringLiteral("Ch.1  (channel1.xml)"));
+        channels->setCurrentItem(found.constFirst());
+        QCOMPARE(states(dialog)->topLevelItemCount(), 2);
+        QTRY_COMPARE(states(dialog)->topLevelItem(0)->text(1), QStringLiteral("as it is now"));
+        QTRY_COMPARE(states(dialog)->topLevelItem(1)->text(1),
+                     QStringLiteral("schedules: 1 changed"));
+        QVERIFY(!restoreButton(dialog)->isEnabled());
+        states(dialog)->setCurrentItem(states(dialog)->topLevelItem(0));
+        QVERIFY(!restoreButton(dialog)->isEnabled());
+        states(dialog)->setCurrentItem(states(dialog)->topLevelItem(1));
+        QVERIFY(restoreButton(dialog)->isEnabled());
+        // Another channel, before what was asked about the last one is known.
+        channels->setCurrentRow(0);
+        QVERIFY(!restoreButton(dialog)->isEnabled());
+        dialog->reject();
+    });
+    auto *const help = m_window->findChild<QMenu *>(QStringLiteral("Menu_Help"));
+    QCOMPARE(help->actions().constFirst()->objectName(), QStringLiteral("Action_Safety_Copies"));
+    help->actions().constFirst()->trigger();
+    QVERIFY(answer.hasCome());
+    QVERIFY(!m_desk->wantedState());
+}
+
+void tst_SafetyDesk::restoresNothingWithoutAWord()
+{
+    drop();
+    trigger("Action_Save_Channel");
+    MessageBoxAnswer box;
+    box.expect(QMessageBox::No).title(QStringLiteral("Restore Channel"));
+    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) {
+        auto *const channels =
+            dialog->findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
+        channels->setCurrentItem(
+            channels->findItems(QStringLiteral("channel0.xml"), Qt::MatchContains).constFirst());
+        QTreeWidgetItem *const item = states(dialog)->topLevelItem(1);
+        states(dialog)->setCurrentItem(item);
+        QTRY_VERIFY(restoreButton(dialog)->isEnabled());
+        restoreButton(dialog)->click();
+    });
+    m_desk->showCopies();
+    QVERIFY(answer.hasCome());
+    QVERIFY(!m_desk->wantedState());
+    QVERIFY(m_window->isVisible());
+}
+
+void tst_SafetyDesk::restoresAState()
+{
+    const QByteArray before = channel(2);
+    drop(2);
+    trigger("Action_Save_Channel");
+    const QByteArray after = channel(2);
+    drop(3);
+    MessageBoxAnswer box;
+    box.expect(QMessageBox::Yes).title(QStringLiteral("Restore Channel"));
+    box.expect(QMessageBox::Yes).text(QStringLiteral("The channel \"Ch.3\" has been modified."));
+    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) {
+        auto *const channels =
+            dialog->findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
+        channels->setCurrentItem(
+            channels->findItems(QStringLiteral("channel2.xml"), Qt::MatchContains).constFirst());
+        states(dialog)->setCurrentItem(states(dialog)->topLevelItem(1));
+        QTRY_VERIFY(restoreButton(dialog)->isEnabled());
+        restoreButton(dialog)->click();
+    });
+    m_desk->showCopies();
+    QVERIFY(!m_window->isVisible());
+    const auto wanted = m_desk->wantedState();
+    QVERIFY(wanted);
+    QVERIFY(SafetyDesk::restore(m_folder->path(), *wanted));
+    QCOMPARE(channel(2), before);
+    QVERIFY(channel(3).contains("a.xml"));
+    const auto kept = m_net->store()->states(QStringLiteral("channel2.xml"));
+    QCOMPARE(kept.size(), 2);
+    QCOMPARE(m_folder->read(QDir(m_folder->path()).relativeFilePath(kept.at(1).path)), after);
+}
+
+void tst_SafetyDesk::restoresTheBasicChannelWithItsCopy()
+{
+    const QByteArray before = channel();
+    const BackupState first = m_net->store()->states(QStringLiteral("channel0.xml")).constFirst();
+    drop();
+    trigger("Action_Save_All_Channel");
+    QVERIFY(channel() != before);
+    QVERIFY(SafetyDesk::restore(m_folder->path(), first));
+    QCOMPARE(channel(), before);
+    QCOMPARE(m_folder->read(QStringLiteral("channel/channel.xml")), before);
+}
+
+void tst_SafetyDesk::restoresNoDamage()
+{
+    const QByteArray before = channel(1);
+    BackupState state = m_net->store()->states(QStringLiteral("channel1.xml")).constFirst();
+    state.path = m_folder->write(QStringLiteral("backup/channel1.xml/damaged.xml"), "<Channel");
+    QVERIFY(!SafetyDesk::restore(m_folder->path(), state));
+    state.path = m_folder->filePath(QStringLiteral("none.xml"));
+    QVERIFY(!SafetyDesk::restore(m_folder->path(), state));
+    QCOMPARE(channel(1), before);
+}
+
+void tst_SafetyDesk::bringsBackADeletedChannel()
+{
+    const QByteArray before = channel(5);
+    QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("channel/channel5.xml"))));
+    const auto kept = m_net->store()->states(QStringLiteral("channel5.xml"));
+    QCOMPARE(kept.size(), 1);
+    QVERIFY(SafetyDesk::restore(m_folder->path(), kept.constFirst()));
+    QCOMPARE(channel(5), before);
+}
+
+QTEST_MAIN(tst_SafetyDesk)
+#include "tst_safetydesk.moc"
