@@ -51,6 +51,11 @@ private Q_SLOTS:
     void menuHoldsTheEditActions();
     void contextMenu();
     void menuAsksForTheState();
+
+    void activationOfARowReportsIt();
+    void rowIsSelectedInFull();
+    void namesOfSchedules();
+    void otherViewKeepsRowsAndMarks();
 };
 
 void tst_ZvScheduleListWidgetEditing::tellsWhatIsPossible_data()
@@ -414,6 +419,57 @@ void tst_ZvScheduleListWidgetEditing::menuAsksForTheState()
     QCOMPARE(activations.names().size(), 1);
     QCOMPARE(fixture.log.names(), QStringList{QStringLiteral("requestEditMenuAboutToShow")});
     QVERIFY(!fixture.menu()->isVisible());
+}
+
+void tst_ZvScheduleListWidgetEditing::activationOfARowReportsIt()
+{
+    EditingFixture fixture;
+    fixture.list.itemActivated(fixture.model()->index(1, 2));
+    QCOMPARE(fixture.log.names(), QStringList{QStringLiteral("selectedScheduleChanged")});
+    QCOMPARE(fixture.log.arguments(0).value(0).value<ZvScheduleBasicInfo>(), dayInfo(1));
+    QCOMPARE(fixture.selectedRows(), QList<int>{0});
+    fixture.list.onItemSelectionChanged({},
+                                        fixture.list.rowSelection(fixture.model()->index(2, 0)));
+    QCOMPARE(fixture.log.names().size(), 1);
+    fixture.list.onItemSelectionChanged(fixture.list.rowSelection(fixture.model()->index(2, 0)),
+                                        {});
+    QCOMPARE(fixture.log.arguments(1).value(0).value<ZvScheduleBasicInfo>(), juneInfo(3));
+}
+
+void tst_ZvScheduleListWidgetEditing::rowIsSelectedInFull()
+{
+    const EditingFixture fixture;
+    const QItemSelection row = fixture.list.rowSelection(fixture.model()->index(3, 1));
+    QCOMPARE(row.indexes().size(), 3);
+    for (int column = 0; column < 3; ++column)
+        QVERIFY(row.contains(fixture.model()->index(3, column)));
+}
+
+void tst_ZvScheduleListWidgetEditing::namesOfSchedules()
+{
+    const Schedules schedules = someSchedules();
+    QCOMPARE(ZvScheduleListWidget::infosOfSchedules(schedules, true),
+             Infos({dayInfo(1), juneInfo(3), juneInfo(4), juneInfo(5)}));
+    QCOMPARE(ZvScheduleListWidget::infosOfSchedules(schedules.mid(0, 2), false),
+             Infos({defaultInfo, dayInfo(1)}));
+    QCOMPARE(ZvScheduleListWidget::infosOfSchedules({}, true), Infos());
+}
+
+void tst_ZvScheduleListWidgetEditing::otherViewKeepsRowsAndMarks()
+{
+    EditingFixture fixture;
+    fixture.check({1, 3});
+    fixture.list.selectSchedule(juneInfo(4));
+    const QPointer<QTreeView> old = fixture.view();
+    fixture.list.createTreeView(2.0);
+    QVERIFY(!old);
+    QCOMPARE(fixture.view()->iconSize(), QSize(32, 32));
+    QCOMPARE(fixture.checkedRows(), QList<int>({1, 3}));
+    QCOMPARE(fixture.selectedRows(), QList<int>());
+    QCOMPARE(fixture.view()->columnWidth(0), fixture.view()->header()->defaultSectionSize());
+    fixture.log.clear();
+    fixture.list.selectSchedule(juneInfo(5));
+    QCOMPARE(fixture.log.names(), QStringList{QStringLiteral("selectedScheduleChanged")});
 }
 
 QTEST_MAIN(tst_ZvScheduleListWidgetEditing)

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void pasteCancelled();
     void pasteOfEmptySchedulesOnly();
     void pasteWithoutAChannel();
+    void pasteOfAGivenList();
 };
 
 void tst_ZvScheduleListWidgetPaste::pastePossibleWithSchedulesOnly()
@@ -214,6 +215,21 @@ void tst_ZvScheduleListWidgetPaste::pasteWithoutAChannel()
     fixture.log.clear();
     QVERIFY(fixture.paste(accept));
     QCOMPARE(fixture.infos(1), Infos());
+}
+
+void tst_ZvScheduleListWidgetPaste::pasteOfAGivenList()
+{
+    EditingFixture fixture;
+    {
+        DialogAnswer<Dialog> dialog(acceptDate(dayOfJune(20), true));
+        QVERIFY(fixture.list.pasteSchedules({ZvSchedule(), scheduleOf(dayInfo(2), 3)}));
+        QVERIFY(dialog.hasCome());
+    }
+    QCOMPARE(fixture.log.names(), QStringList{QStringLiteral("requestRemoveAndInsertSchedule")});
+    QCOMPARE(fixture.inserted(0).value(0).date(), dayOfJune(20));
+    DialogAnswer<Dialog> dialog(accept);
+    QVERIFY(!fixture.list.pasteSchedules({}));
+    QVERIFY(dialog.hasCome());
 }
 
 QTEST_MAIN(tst_ZvScheduleListWidgetPaste)

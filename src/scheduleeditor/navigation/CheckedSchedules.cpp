@@ -43,14 +43,4 @@ QList<ZvSchedule> CheckedSchedules::copies(const ScheduleListModel &model, const
     return checked;
 }
 
-QList<ZvScheduleBasicInfo> CheckedSchedules::removable(const QList<ZvSchedule> &schedules)
-{
-    QList<ZvScheduleBasicInfo> infos;
-    for (const ZvSchedule &schedule : schedules) {
-        if (schedule.type() != ZvSchedule::Default)
-            infos.append(ZvScheduleBasicInfo(schedule));
-    }
-    return infos;
-}
-
 } // namespace Zavo

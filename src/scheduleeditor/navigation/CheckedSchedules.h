@@ -21,8 +21,5 @@ ZvScheduleCommonInterface::SelectedType possibleCommands(const ScheduleListModel
 /// Copies of the checked schedules in the order of the channel, each once; empty without a channel.
 QList<ZvSchedule> copies(const ScheduleListModel &model, const ZvChannel *channel);
 
-/// The names of those schedules that can be removed: of all but the default one.
-QList<ZvScheduleBasicInfo> removable(const QList<ZvSchedule> &schedules);
-
 } // namespace CheckedSchedules
 } // namespace Zavo

@@ -348,6 +348,17 @@ QList<ZvSchedule> ZvScheduleListWidget::checkedSchedules() const
     return CheckedSchedules::copies(*m_model, m_currentChannel);
 }
 
+QList<ZvScheduleBasicInfo> ZvScheduleListWidget::infosOfSchedules(const QList<ZvSchedule> &list,
+                                                                  bool excludeDefault)
+{
+    QList<ZvScheduleBasicInfo> infos;
+    for (const ZvSchedule &schedule : list) {
+        if (!excludeDefault || schedule.type() != ZvSchedule::Default)
+            infos.append(ZvScheduleBasicInfo(schedule));
+    }
+    return infos;
+}
+
 ZvScheduleCommonInterface::SelectedType ZvScheduleListWidget::hasSelectedItems() const
 {
     return CheckedSchedules::possibleCommands(*m_model);
@@ -385,7 +396,7 @@ bool ZvScheduleListWidget::cutSelectedItems()
     if (schedules.isEmpty())
         return false;
     ZvScheduleClipboard::writeSchedulesToClipboard(schedules);
-    Q_EMIT requestRemoveSchedule(CheckedSchedules::removable(schedules), false);
+    Q_EMIT requestRemoveSchedule(infosOfSchedules(schedules, true), false);
     return true;
 }
 

@@ -44,6 +44,12 @@ public:
     /// The items of the row of @p info; empty if there is none.
     QList<QStandardItem *> rowItems(const ZvScheduleBasicInfo &info) const;
     bool existsInChannel(const ZvScheduleBasicInfo &info) const;
+    /// All columns of the row of @p index.
+    QItemSelection rowSelection(const QModelIndex &index) const;
+    /// The names of these schedules; with @p excludeDefault of all but the default one, which
+    /// cannot be removed.
+    static QList<ZvScheduleBasicInfo> infosOfSchedules(const QList<ZvSchedule> &list,
+                                                       bool excludeDefault);
 
     SelectedType hasSelectedItems() const override;
     /// Asks for the removal of the checked schedules but the default one, which is half marked.
@@ -53,6 +59,8 @@ public:
     bool isPastingPossible() const override;
     /// Asks the user for the destination, and about what stands there.
     bool pasteItems() override;
+    /// The same for @p list, as the clipboard held it. True if the paste was asked for.
+    bool pasteSchedules(const QList<ZvSchedule> &list);
     void selectAllItems() override;
     void deselectAllItems() override;
 
@@ -76,6 +84,17 @@ public Q_SLOTS:
 
     void storeCurrentSchedule();
     void setActivated(bool flag = true);
+
+    /// Reports the schedule of the row.
+    void itemActivated(const QModelIndex &index);
+    /// Reports the first row of @p selected, if there is one.
+    void onItemSelectionChanged(const QItemSelection &selected, const QItemSelection &deselected);
+    void onContextMenuRequested(const QPoint &pos);
+    void onToolMenuAboutToShow();
+    /// Asks the user for a schedule to be created, and for its creation.
+    void onActionNewScheduleRequested();
+    /// Puts a view with icons for @p dpiRatio in place of the one there is. The rows stay.
+    void createTreeView(double dpiRatio);
 
 Q_SIGNALS:
     /// Another row was selected, by the user or to follow the time table.
@@ -102,13 +121,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private Q_SLOTS:
-    void createTreeView(double dpiRatio);
     void scaleMenuButton(double dpiRatio);
-    void itemActivated(const QModelIndex &index);
-    void onItemSelectionChanged(const QItemSelection &selected, const QItemSelection &deselected);
-    void onContextMenuRequested(const QPoint &pos);
-    void onToolMenuAboutToShow();
-    void onActionNewScheduleRequested();
 
 private:
     void createToolMenu();
@@ -116,8 +129,6 @@ private:
     void rebuildList();
     void fitColumns();
     void selectInfoUnlessSelected(const ZvScheduleBasicInfo &info);
-    QItemSelection rowSelection(const QModelIndex &index) const;
-    bool pasteSchedules(const QList<ZvSchedule> &list);
 
     QLabel *m_channelLabel;
     QTreeView *m_treeView = nullptr;

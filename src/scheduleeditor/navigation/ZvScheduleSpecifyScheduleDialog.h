@@ -44,6 +44,9 @@ public:
     QDate selectedDate() const;
     /// The type with what it needs of day and date.
     ZvScheduleBasicInfo selectedInfo() const;
+    /// The buttons of the types, and of the days from Monday on.
+    QList<QRadioButton *> typeButtons() const;
+    QList<QRadioButton *> dayButtons() const;
     /// Whether each of several schedules is to be pasted, on consecutive days.
     bool isRepeatChecked() const;
 
@@ -69,8 +72,6 @@ private:
     QGroupBox *newDayOfWeekGroupBox();
     QGroupBox *newDateGroupBox();
     QHBoxLayout *newDateLine();
-    QList<QRadioButton *> typeButtons() const;
-    QList<QRadioButton *> dayButtons() const;
     void showTexts();
     void offerDefaultSchedule(bool offered);
     void loadExistingSchedules();

@@ -1,6 +1,5 @@
 #include "navigation/ZvScheduleSwitcherSelectedWidget.h"
 
-#include "navigation/LookState.h"
 #include "navigation/NavigationNames.h"
 
 #include <QMouseEvent>
@@ -69,8 +68,9 @@ void ZvScheduleSwitcherSelectedWidget::setSelected(bool selected)
 {
     if (selected == isSelected())
         return;
+    setProperty(NavigationName::SelectedProperty, selected);
     style()->unpolish(this);
-    setLookState(this, NavigationName::SelectedProperty, selected);
+    style()->polish(this);
     update();
 }
 

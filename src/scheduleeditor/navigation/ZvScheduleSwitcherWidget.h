@@ -54,6 +54,9 @@ public:
     bool cutSelectedItems() override;
     bool isPastingPossible() const override;
     bool pasteItems() override;
+    /// The same for @p list, as the clipboard held it: an empty schedule keeps its place. True if
+    /// the paste was asked for.
+    bool pasteSchedules(const QList<ZvSchedule> &list);
     void selectAllItems() override;
     void deselectAllItems() override;
 
@@ -134,7 +137,6 @@ private:
     void requestSwitchTo(const ZvScheduleBasicInfo &info);
     void markSchedule(const ZvSchedule &schedule);
     bool writeSelectedSchedules();
-    bool pasteSchedules(const QList<ZvSchedule> &list);
     bool planPasteOverOne(const QList<ZvSchedule> &list, SchedulePastePlan *plan);
     bool planPasteOverDates(const QList<ZvSchedule> &list, SchedulePastePlan *plan);
 
