@@ -8,6 +8,7 @@
 #include "ZvSystemInfo.h"
 
 #include <QComboBox>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QToolButton>
 
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void shorterThanTheShortest();
     void truncatedSeconds();
     void shortestBandOfTruncatedSeconds();
+    void randomStepsKeepTheBandsApart();
     void lookingChangesNothing();
     void navigation();
     void bandIsGone();
@@ -458,6 +460,39 @@ void tst_ZvScheduleItemPropertyWidget::shortestBandOfTruncatedSeconds()
     QCOMPARE(time.startTime(), QTime(0, 4, 4, 999));
     QCOMPARE(time.endTime(), QTime(0, 4, 9, 999));
     QCOMPARE(fixture.times(), QStringLiteral("0:4:4-0:4:9"));
+}
+
+// Times taken from the geometry are truncated, so bands that adjoin may meet a millisecond apart.
+void tst_ZvScheduleItemPropertyWidget::randomStepsKeepTheBandsApart()
+{
+    QRandomGenerator random(20250611);
+    for (int round = 0; round < 4; ++round) {
+        QList<ZvTime> bands;
+        for (int second = random.bounded(100); second < 80000;) {
+            const int next = second + 5 + random.bounded(2000);
+            bands.append(
+                {QTime(0, 0).addSecs(second), QTime(0, 0).addSecs(next), QStringLiteral("a")});
+            second = next + qMax(0, random.bounded(40) - 20);
+        }
+        PanelFixture fixture(bands);
+        for (int step = 0; step < 150; ++step) {
+            fixture.page.select({random.bounded(bands.size())});
+            const TimeBoxes boxes = random.bounded(2) == 0 ? fixture.start() : fixture.end();
+            const int box = random.bounded(3);
+            if (random.bounded(3) == 0)
+                boxes.box(box)->setValue(random.bounded(60));
+            else
+                TimeBoxes::turnWheel(boxes.box(box), random.bounded(7) - 3);
+            const QList<ZvTime> times = fixture.page.area()->currentTimes();
+            QCOMPARE(times.size(), bands.size());
+            for (int i = 0; i < times.size(); ++i) {
+                QVERIFY(times.at(i).startTime() < times.at(i).endTime());
+                if (i > 0 && times.at(i - 1).endTime().msecsTo(times.at(i).startTime()) < -1)
+                    QFAIL(qPrintable(QStringLiteral("%1: %2").arg(i).arg(
+                        fixture.page.texts().mid(i - 1, 2).join(QLatin1Char(' ')))));
+            }
+        }
+    }
 }
 
 void tst_ZvScheduleItemPropertyWidget::lookingChangesNothing()
