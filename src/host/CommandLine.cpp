@@ -13,6 +13,7 @@ namespace {
 constexpr char dataDirOption[] = "data-dir";
 constexpr char languageOption[] = "language";
 constexpr char screenshotOption[] = "screenshot";
+constexpr char checkOption[] = "check";
 constexpr char helpOption[] = "help";
 constexpr char versionOption[] = "version";
 
@@ -32,11 +33,15 @@ CommandLine::CommandLine(const QStringList &arguments)
         {name(languageOption), tr("Speaks this language, for example de or ja."), tr("language")},
         {name(screenshotOption), tr("Writes a picture of the window to this PNG file and ends."),
          tr("file")},
+        {name(checkOption),
+         tr("Checks the channels and their stages instead of opening them. Ends with 0 if nothing "
+            "was found, 1 with findings, 2 if it could not check.")},
         {{QStringLiteral("h"), name(helpOption)}, tr("Shows these options and ends.")},
         {{QStringLiteral("v"), name(versionOption)}, tr("Shows the version and ends.")},
     });
     const bool understood = parser.parse(arguments);
     m_helpText = parser.helpText();
+    m_asksForCheck = parser.isSet(name(checkOption));
     if (parser.isSet(name(helpOption))) {
         m_wish = Wish::Help;
     } else if (parser.isSet(name(versionOption))) {
@@ -88,7 +93,8 @@ QString CommandLine::errorText() const
 bool CommandLine::isWithoutWindow(const QStringList &arguments)
 {
     const QStringList words{QStringLiteral("-h"), QStringLiteral("-v")};
-    const QStringList options{name(screenshotOption), name(helpOption), name(versionOption)};
+    const QStringList options{name(screenshotOption), name(checkOption), name(helpOption),
+                              name(versionOption)};
     return std::any_of(arguments.cbegin(), arguments.cend(), [&](const QString &argument) {
         const QString option = argument.section(QLatin1Char('='), 0, 0);
         const bool isLong =
@@ -105,6 +111,9 @@ void CommandLine::read(const QCommandLineParser &parser)
     }
     if (!parser.positionalArguments().isEmpty())
         m_errorText = tr("\"%1\" is no option.").arg(parser.positionalArguments().constFirst());
+    if (m_asksForCheck && parser.isSet(name(screenshotOption)))
+        m_errorText = tr("The options --%1 and --%2 exclude each other.")
+                          .arg(name(checkOption), name(screenshotOption));
     if (!m_errorText.isEmpty()) {
         m_wish = Wish::Nothing;
         return;
@@ -116,6 +125,8 @@ void CommandLine::read(const QCommandLineParser &parser)
     m_screenshotFile = parser.value(name(screenshotOption));
     if (!m_screenshotFile.isEmpty())
         m_wish = Wish::Screenshot;
+    else if (m_asksForCheck)
+        m_wish = Wish::Check;
 }
 
 } // namespace Zavo

@@ -17,6 +17,7 @@ public:
     enum class Wish {
         Edit,
         Screenshot,
+        Check,
         Help,
         Version,
         Nothing, ///< The line makes no sense; errorText() says why.
@@ -37,6 +38,10 @@ public:
     /// The file that the picture goes to; empty without --screenshot.
     QString screenshotFile() const;
 
+    /// The exit code of a run that could not do what the line asks for. A check has one of its own,
+    /// since 1 tells of findings there.
+    int exitCodeOfFailure() const { return m_asksForCheck ? 2 : 1; }
+
     QString helpText() const;
     QString versionText() const;
 
@@ -51,6 +56,7 @@ private:
     void read(const QCommandLineParser &parser);
 
     Wish m_wish = Wish::Edit;
+    bool m_asksForCheck = false;
     QString m_dataDir;
     QString m_language;
     QString m_screenshotFile;

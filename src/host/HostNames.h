@@ -4,6 +4,8 @@
 namespace Zavo::HostNames {
 
 constexpr char helpMenu[] = "Menu_Help";
+constexpr char toolsMenu[] = "Menu_Tools";
+constexpr char checkAction[] = "Action_Check_Data";
 constexpr char tabWidget[] = "ScheduleTabWidget";
 constexpr char saveAction[] = "Action_Save_Channel";
 constexpr char saveAllAction[] = "Action_Save_All_Channel";

@@ -6,6 +6,7 @@
 #include "VersionBox.h"
 #include "ZvEditorConfig.h"
 #include "ZvSystemInfo.h"
+#include "check/CheckDialog.h"
 #include "editor/ZvScheduleEditor.h"
 #include "upload/UploadDialog.h"
 
@@ -40,6 +41,8 @@ HostWindow::HostWindow(QWidget *parent)
     const QList<QMenu *> menus = m_editor->menu();
     for (QMenu *menu : menus)
         menuBar()->addMenu(menu);
+    // The help stays the last.
+    menuBar()->insertMenu(menus.last()->menuAction(), createToolsMenu());
     disableWhatIsNotOffered();
     connectEditor();
 }
@@ -87,6 +90,13 @@ void HostWindow::showUploadManager()
     m_uploadDialog->activateWindow();
 }
 
+void HostWindow::checkData()
+{
+    if (!m_checkDialog)
+        m_checkDialog = new CheckDialog(this);
+    m_checkDialog->check();
+}
+
 void HostWindow::closeEvent(QCloseEvent *event)
 {
     if (!m_editorClosed && !m_closing && !confirmEndOfUpload()) {
@@ -112,6 +122,16 @@ void HostWindow::takeDefaultSize()
     const bool bounded = Display::isSeen() && screen();
     const QSize wanted = defaultSize * ZvSystemInfo::getDpiRatio(this);
     resize(bounded ? wanted.boundedTo(screen()->availableSize() * screenShare) : wanted);
+}
+
+QMenu *HostWindow::createToolsMenu()
+{
+    auto *const menu = new QMenu(tr("&Tools"), this);
+    menu->setObjectName(QLatin1String(HostNames::toolsMenu));
+    QAction *const check = menu->addAction(tr("&Check Data..."), this, SLOT(checkData()));
+    check->setObjectName(QLatin1String(HostNames::checkAction));
+    check->setStatusTip(tr("Looks for what is wrong in the saved channels and their stages"));
+    return menu;
 }
 
 QMenu *HostWindow::createHelpMenu()

@@ -6,6 +6,7 @@ class QMenu;
 
 namespace Zavo {
 
+class CheckDialog;
 class ScenePurger;
 class UploadDialog;
 class ZvScheduleEditor;
@@ -56,6 +57,9 @@ public Q_SLOTS:
     /// Shows the upload manager, which stays open beside the editor.
     void showUploadManager();
 
+    /// Checks the data folder beside the work in the window.
+    void checkData();
+
 Q_SIGNALS:
     /// The editor has finished and the window is closed; the program may end. Emitted once.
     void finished();
@@ -68,6 +72,7 @@ private Q_SLOTS:
 
 private:
     void takeDefaultSize();
+    QMenu *createToolsMenu();
     QMenu *createHelpMenu();
     void connectEditor();
     void disableWhatIsNotOffered();
@@ -77,6 +82,7 @@ private:
     ScenePurger *m_scenePurger = nullptr;
     ZvScheduleEditor *m_editor = nullptr;
     UploadDialog *m_uploadDialog = nullptr; // null until it is first asked for
+    CheckDialog *m_checkDialog = nullptr;   // the same
     int m_busyCount = 0;
     bool m_closing = false;
     bool m_editorClosed = false;

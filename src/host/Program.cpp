@@ -6,6 +6,7 @@
 #include "HostWindow.h"
 #include "ScreenshotTaker.h"
 #include "ZvEditorConfig.h"
+#include "check/CheckCommand.h"
 #include "safety/DataFolderLock.h"
 #include "safety/FolderInUseBox.h"
 #include "safety/SafetyDesk.h"
@@ -18,6 +19,8 @@
 #include <QSessionManager>
 
 #include <cstdio>
+
+#include <unistd.h>
 
 namespace Zavo {
 
@@ -52,6 +55,7 @@ int Program::run()
         return fail(m_commandLine.errorText());
     case CommandLine::Wish::Edit:
     case CommandLine::Wish::Screenshot:
+    case CommandLine::Wish::Check:
         break;
     }
     Catalogues catalogues(Catalogues::standardFolders());
@@ -59,6 +63,8 @@ int Program::run()
         return fail(tr("\"%1\" is the name of no language.").arg(m_commandLine.language()));
     if (!m_commandLine.dataDir().isEmpty())
         ZvEditorConfig::setDataDir(m_commandLine.dataDir());
+    if (m_commandLine.wish() == CommandLine::Wish::Check)
+        return CheckCommand(stdout, stderr, isatty(STDERR_FILENO) != 0).run();
     const int exitCode = openDataFolder();
     return exitCode == Done ? runWindows() : exitCode;
 }
@@ -188,7 +194,7 @@ int Program::fail(const QString &message, ExitCode exitCode) const
     write(stderr, QStringLiteral("%1: %2").arg(QCoreApplication::applicationName(), message));
     if (mayAsk())
         QMessageBox::critical(m_window.get(), QGuiApplication::applicationDisplayName(), message);
-    return exitCode;
+    return exitCode == Failed ? m_commandLine.exitCodeOfFailure() : exitCode;
 }
 
 } // namespace Zavo

@@ -28,6 +28,7 @@ public:
 
     /// Runs the event loop if the command line asks for more than a text; returns the exit code: 0,
     /// 1 if what was asked for could not be done, or 3 if another program has the data folder open.
+    /// A check has the codes of CheckCommand.
     int run();
 
 private Q_SLOTS:

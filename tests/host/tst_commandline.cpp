@@ -17,6 +17,7 @@ private Q_SLOTS:
     void dataDirIsAbsolute();
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
+    void aFailedCheckHasItsOwnCode();
     void helpNamesEveryOption();
     void versionIsOneLine();
     void knowsWhenNoWindowIsWanted_data();
@@ -60,6 +61,9 @@ void tst_CommandLine::understands_data()
     row("--language pt_BR") << CommandLine::Wish::Edit << none << "pt_BR" << none;
     row("--screenshot a.png --language ja") << CommandLine::Wish::Screenshot << none << "ja"
                                             << "a.png";
+    row("--check") << CommandLine::Wish::Check << none << none << none;
+    row("--check --data-dir /a --language de") << CommandLine::Wish::Check << "/a"
+                                               << "de" << none;
     row("--help") << CommandLine::Wish::Help << none << none << none;
     row("-h") << CommandLine::Wish::Help << none << none << none;
     row("--version") << CommandLine::Wish::Version << none << none << none;
@@ -107,6 +111,8 @@ void tst_CommandLine::saysWhatIsWrong_data()
                                  << "data-dir";
     QTest::newRow("empty screenshot") << "--screenshot="
                                       << "screenshot";
+    QTest::newRow("check with a picture") << "--check --screenshot a.png"
+                                          << "screenshot";
     QTest::newRow("loose word") << "data"
                                 << "data";
 }
@@ -120,10 +126,18 @@ void tst_CommandLine::saysWhatIsWrong()
     QVERIFY2(line.errorText().contains(named), qPrintable(line.errorText()));
 }
 
+void tst_CommandLine::aFailedCheckHasItsOwnCode()
+{
+    QCOMPARE(parsed(QStringLiteral("--no-such-option")).exitCodeOfFailure(), 1);
+    QCOMPARE(parsed(QStringLiteral("--check --no-such-option")).exitCodeOfFailure(), 2);
+    QCOMPARE(parsed(QStringLiteral("--no-such-option --check")).exitCodeOfFailure(), 2);
+}
+
 void tst_CommandLine::helpNamesEveryOption()
 {
     const QString help = parsed(QString()).helpText();
-    for (const auto *option : {"--data-dir", "--language", "--screenshot", "--help", "--version"})
+    for (const auto *option :
+         {"--data-dir", "--language", "--screenshot", "--check", "--help", "--version"})
         QVERIFY2(help.contains(QLatin1String(option)), option);
 }
 
@@ -146,6 +160,7 @@ void tst_CommandLine::knowsWhenNoWindowIsWanted_data()
     row({}, false);
     row({"--data-dir", "/a"}, false);
     row({"--screenshot", "a.png"}, true);
+    row({"--check", "--data-dir", "/a"}, true);
     row({"--screenshot=a.png"}, true);
     row({"--data-dir", "/a", "--help"}, true);
     row({"-v"}, true);

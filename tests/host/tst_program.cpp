@@ -42,6 +42,8 @@ private Q_SLOTS:
     void leavesAFolderThatIsInUse();
     void endsProperly();
     void tellsOfASessionThatDidNotEnd();
+    void checksWithoutADisplay_data();
+    void checksWithoutADisplay();
 
 private:
     Run run(const QStringList &arguments,
@@ -280,6 +282,47 @@ void tst_Program::tellsOfASessionThatDidNotEnd()
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(result.errors.contains(QStringLiteral("lost in: Lobby.")), qPrintable(result.errors));
     QVERIFY(!run(arguments).errors.contains(QStringLiteral("session")));
+}
+
+void tst_Program::checksWithoutADisplay_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("printed");
+    const QByteArray sound = "<Channel version=\"1\" id=\"0\" index=\"0\" name=\"Hall\">"
+                             "<Schedule type=\"default\" defaultStage=\"a.xml\"/></Channel>";
+    const QStringList none;
+    QTest::newRow("sound") << sound << none << 0
+                           << "Nothing found in 1 channel file(s), 1 stage(s).\n";
+    QTest::newRow("damaged") << sound.left(20) << none << 1 << "channel0.xml: ";
+    QTest::newRow("findings") << QByteArray(sound).replace("a.xml", "b.xml") << none << 1
+                              << "channel0.xml: Hall: Default schedule: The stage \"b.xml\" does "
+                                 "not exist.\n1 finding(s) in 1 channel file(s), 1 stage(s).\n";
+    QTest::newRow("no data") << QByteArray() << none << 2 << QString();
+    QTest::newRow("nonsense") << sound << QStringList{QStringLiteral("--nonsense")} << 2
+                              << QString();
+    QTest::newRow("no such language")
+        << sound << QStringList{QStringLiteral("--language=nonsense")} << 2 << QString();
+}
+
+void tst_Program::checksWithoutADisplay()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QStringList, options);
+    QFETCH(QString, printed);
+    m_folder->writeStage(QStringLiteral("a.xml"));
+    if (!content.isEmpty())
+        m_folder->write(QStringLiteral("channel/channel0.xml"), content);
+    const QStringList names = m_folder->names();
+    const Run result =
+        run(QStringList{QStringLiteral("--check"), QStringLiteral("--data-dir"), data()} + options,
+            environmentWithoutDisplay());
+    QTEST(result.exitCode, "exitCode");
+    QVERIFY2(result.output.contains(printed), qPrintable(result.output));
+    QCOMPARE(result.errors.isEmpty(), result.exitCode != 2);
+    QCOMPARE(result.output.isEmpty(), result.exitCode == 2);
+    QCOMPARE(m_folder->names(), names);
 }
 
 QTEST_GUILESS_MAIN(tst_Program)

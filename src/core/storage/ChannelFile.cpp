@@ -154,11 +154,20 @@ private:
 
 bool parse(const QByteArray &bytes, ChannelRecord *record)
 {
+    ChannelRecord read;
+    if (!parseAsItStands(bytes, &read) || !ScheduleOrder::putInOrder(&read.schedules))
+        return false;
+    *record = read;
+    return true;
+}
+
+bool parseAsItStands(const QByteArray &bytes, ChannelRecord *record)
+{
     if (bytes.size() > MaximumBytes)
         return false;
     ChannelFileParser parser({bytes.constData(), static_cast<size_t>(bytes.size())});
     ChannelRecord read;
-    if (!parser.run(&read) || !ScheduleOrder::putInOrder(&read.schedules))
+    if (!parser.run(&read))
         return false;
     *record = read;
     return true;

@@ -29,6 +29,11 @@ constexpr int MaximumBands = 20000; // in one schedule
 /// and bands come in their order, without overlaps.
 ZVCORE_EXPORT bool parse(const QByteArray &bytes, ChannelRecord *record);
 
+/// The same, but schedules and bands come as they stand in the bytes: perhaps out of order,
+/// overlapping, or two schedules for the same days, which parse() refuses. For those who tell a
+/// person what is wrong with a file.
+ZVCORE_EXPORT bool parseAsItStands(const QByteArray &bytes, ChannelRecord *record);
+
 /// False, with @p bytes untouched, if parse() would not give back the record to the letter and to
 /// the millisecond.
 ZVCORE_EXPORT bool serialize(const ChannelRecord &record, QByteArray *bytes);
