@@ -84,7 +84,16 @@ ActionHost::ActionHost(Target target)
     writeChannels();
     // No button lies behind the end of the tool bar.
     window->resize(1100, 450);
-    m_isReady = start() && prepare();
+    m_isReady = startHidden() && prepare();
+}
+
+// The docks take their sizes while nothing has to be painted, which is much the quicker.
+bool ActionHost::startHidden()
+{
+    const bool isStarted =
+        editor->exec() && QTest::qWaitFor([this] { return tabs()->count() > 0; });
+    window->show();
+    return isStarted;
 }
 
 ActionHost::~ActionHost()

@@ -78,6 +78,7 @@ private Q_SLOTS:
 
 private:
     void writeChannels();
+    bool startHidden();
     bool prepare();
     void select() const;
     void mark() const;
