@@ -33,6 +33,8 @@ class tst_MetaTypes : public QObject
 private Q_SLOTS:
     void areKnownByTheirUnqualifiedNames_data();
     void areKnownByTheirUnqualifiedNames();
+    void pointersAreKnown_data();
+    void pointersAreKnown();
     void crossQueuedConnections();
     void areRecordedBySpies();
 };
@@ -56,6 +58,20 @@ void tst_MetaTypes::areKnownByTheirUnqualifiedNames()
 {
     QFETCH(QByteArray, name);
     QTEST(QMetaType::type(name.constData()), "type");
+}
+
+void tst_MetaTypes::pointersAreKnown_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name : {"bool*", "const QWidget*", "QGraphicsScene*"})
+        QTest::newRow(name) << QByteArray(name);
+}
+
+// By name alone: naming the type here would make it known.
+void tst_MetaTypes::pointersAreKnown()
+{
+    QFETCH(QByteArray, name);
+    QVERIFY(QMetaType::type(name.constData()) != QMetaType::UnknownType);
 }
 
 void tst_MetaTypes::crossQueuedConnections()

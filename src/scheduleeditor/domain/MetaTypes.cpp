@@ -2,18 +2,27 @@
 #include "domain/ZvScheduleBasicInfo.h"
 #include "domain/ZvTimeTableTimeLabelInfo.h"
 
+#include <QGraphicsScene>
 #include <QMap>
 #include <QObject>
 #include <QRectF>
+#include <QWidget>
+
+Q_DECLARE_METATYPE(bool *)
+Q_DECLARE_METATYPE(const QWidget *)
 
 namespace Zavo {
 
 namespace {
 
-// Signals spell these types without their namespace, and queued connections go by that name.
+// Signals spell these types without their namespace, and queued connections and whoever records
+// signals go by that name.
 void registerMetaTypes()
 {
     qRegisterMetaType<QMap<int, QRectF>>("QMap<int,QRectF>");
+    qRegisterMetaType<bool *>("bool*");
+    qRegisterMetaType<const QWidget *>("const QWidget*");
+    qRegisterMetaType<QGraphicsScene *>("QGraphicsScene*");
     qRegisterMetaType<Qt::DayOfWeek>("Qt::DayOfWeek");
     qRegisterMetaType<ZvScheduleBasicInfo>("ZvScheduleBasicInfo");
     qRegisterMetaType<ZvScheduleBasicInfo *>("ZvScheduleBasicInfo*");
