@@ -399,8 +399,9 @@ void tst_ZvScheduleSwitcherWidget::leavingEndsTheHighlight()
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(outer, &leave);
     QVERIFY(corner() != hovered);
+    // The calendar leaves no room for a press there; what comes all the same goes to the frame.
     QTest::mousePress(outer, Qt::LeftButton);
-    QCOMPARE(host.taken(), QStringList{activated});
+    QCOMPARE(host.taken(), (QStringList{activated, dateRequest(today), activated}));
 }
 
 void tst_ZvScheduleSwitcherWidget::frameKnowsItsObjects()

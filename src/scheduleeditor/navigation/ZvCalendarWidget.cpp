@@ -243,6 +243,9 @@ bool ZvCalendarWidget::event(QEvent *event)
     // The base class has just put its own arrows there.
     if (event->type() == QEvent::LayoutDirectionChange)
         m_navigationBar.setArrows(layoutDirection());
+    // It was told of by clicked(); a frame around would tell of it again.
+    if (event->type() == QEvent::MouseButtonPress)
+        event->accept();
     return recognised;
 }
 

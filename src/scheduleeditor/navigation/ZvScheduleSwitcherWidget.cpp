@@ -286,14 +286,10 @@ bool ZvScheduleSwitcherWidget::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isAroundCalendar =
         watched->objectName() == QLatin1String(NavigationName::CalendarOuterWidget);
-    if (event->type() == QEvent::Leave && isAroundCalendar) {
+    if (event->type() == QEvent::Leave && isAroundCalendar)
         m_calendarWidget->clearHovered();
-    } else if (event->type() == QEvent::MouseButtonPress) {
+    else if (event->type() == QEvent::MouseButtonPress)
         setActivated();
-        // The calendar has told of this press; the frame around would tell of it again.
-        if (isAroundCalendar)
-            return true;
-    }
     return QScrollArea::eventFilter(watched, event);
 }
 
