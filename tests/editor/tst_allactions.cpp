@@ -3,7 +3,9 @@
 #include "navigation/ZvScheduleListWidget.h"
 #include "navigation/ZvScheduleSwitcherWidget.h"
 
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QSignalSpy>
 #include <QToolButton>
 #include <QWindow>
 #include <QtTest>
@@ -372,6 +374,9 @@ private Q_SLOTS:
     void enabledStates();
     void effects_data();
     void effects();
+    void keysAreNotShared();
+    void everyKey();
+    void keysOfTheRenameEditorAreItsOwn();
 };
 
 void tst_AllActions::initTestCase()
@@ -474,6 +479,65 @@ void tst_AllActions::effects()
             host.reset();
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+// Keys that two actions have at once would reach neither.
+void tst_AllActions::keysAreNotShared()
+{
+    const ActionHost host(Target::Partly);
+    QMap<QString, QString> owners;
+    const QList<QAction *> actions = host.actions();
+    for (const QAction *action : actions) {
+        const QList<QKeySequence> shortcuts = action->shortcuts();
+        for (const QKeySequence &keys : shortcuts) {
+            const QString text = keys.toString();
+            QVERIFY2(!owners.contains(text), qPrintable(text));
+            owners.insert(text, ActionHost::nameOf(action));
+        }
+    }
+    QCOMPARE(owners.value(QStringLiteral("Ctrl+Shift+S")), QStringLiteral("Save All Channels"));
+}
+
+// An action can have more keys than the one that its menu shows.
+void tst_AllActions::everyKey()
+{
+    for (const char *name : {"Save Channel", "Undo", "Redo", "Cut", "Copy", "Paste", "Delete",
+                             "Select All", "Deselect All"}) {
+        const QList<QKeySequence> shortcuts =
+            ActionHost(Target::Partly).actionOf(QLatin1String(name))->shortcuts();
+        QVERIFY2(!shortcuts.isEmpty(), name);
+        for (const QKeySequence &keys : shortcuts) {
+            const ActionHost host(Target::Partly);
+            QVERIFY(host.isReady());
+            activate(host, Activated::MainWidget);
+            QSignalSpy triggered(host.actionOf(QLatin1String(name)), SIGNAL(triggered()));
+            QTest::keySequence(host.window.get(), keys);
+            QVERIFY2(triggered.count() == 1, qPrintable(keys.toString()));
+        }
+    }
+}
+
+// Whoever corrects a name must not delete bands by it.
+void tst_AllActions::keysOfTheRenameEditorAreItsOwn()
+{
+    const ActionHost host(Target::Wholly);
+    QVERIFY(host.isReady());
+    activate(host, Activated::MainWidget);
+    const ActionHost::State before = host.state();
+    host.action("Action_Rename_Channel")->trigger();
+    const QPointer<QLineEdit> editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    QVERIFY(editor);
+    const auto type = [&host](const QKeySequence &keys) {
+        QTest::keySequence(host.window->windowHandle(), keys);
+    };
+    type(Qt::Key_Home);
+    for (const auto keys :
+         {QKeySequence::Delete, QKeySequence::SelectAll, QKeySequence::Copy, QKeySequence::Cut,
+          QKeySequence::Undo, QKeySequence::SelectAll, QKeySequence::Paste})
+        type(QKeySequence(keys));
+    QVERIFY(editor);
+    QCOMPARE(editor->text(), QStringLiteral("eta1"));
+    QCOMPARE(host.state(), before);
 }
 
 QTEST_MAIN(tst_AllActions)
