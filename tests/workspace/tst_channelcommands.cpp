@@ -71,6 +71,7 @@ private Q_SLOTS:
     void added();
     void addedFileHoldsOnePlaceTooFew();
     void addedToNothing();
+    void nothingIsAddedBeforeTheStart();
     void addedIsKeptForTheNextStart();
     void newNumbers_data();
     void newNumbers();
@@ -137,21 +138,31 @@ void tst_ChannelCommands::addedFileHoldsOnePlaceTooFew()
 void tst_ChannelCommands::addedToNothing()
 {
     MainWidgetFixture main;
+    main.data.write(QStringLiteral("channel/channel5.xml"), "<channel");
+    main.createTabs();
+    QCOMPARE(main.tabs()->count(), 0);
     QList<int> reported;
     connect(main.widget.get(), &ZvScheduleMainWidget::currentChannelChanged, this,
             [&reported](const ZvChannel *channel) { reported.append(channel->index()); });
-    {
-        MessageBoxAnswer answer;
-        answer.expect(QMessageBox::Ok).title(AddTitle).text(NotWrittenText);
-        main.widget->addNewChannel();
-    }
-    QVERIFY(main.data.names().isEmpty());
-    QCOMPARE(reported, QList<int>());
-    main.data.makeFolder(QStringLiteral("channel"));
     main.widget->addNewChannel();
-    QCOMPARE(channelFiles(main), QStringList{channelFileName(0)});
+    QCOMPARE(channelFiles(main), (QStringList{channelFileName(0), channelFileName(5)}));
     QCOMPARE(main.area(0)->channel()->id(), 0);
     QCOMPARE(reported, QList<int>{0});
+}
+
+// The window is there before the channels are, and somebody may be quick.
+void tst_ChannelCommands::nothingIsAddedBeforeTheStart()
+{
+    MainWidgetFixture main;
+    for (int i = 0; i < Names.size(); ++i)
+        writeChannelFile(main.data, channelFileName(i), {i, i, Names.at(i)});
+    const MessageBoxAnswer noBox;
+    main.widget->addNewChannel();
+    QCOMPARE(main.tabs()->count(), 0);
+    QCOMPARE(channelFiles(main).size(), 3);
+    main.createTabs();
+    main.widget->addNewChannel();
+    QCOMPARE(main.area(3)->channel()->id(), 3);
 }
 
 void tst_ChannelCommands::addedIsKeptForTheNextStart()

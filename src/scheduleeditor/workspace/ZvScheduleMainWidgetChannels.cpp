@@ -24,7 +24,9 @@ namespace Zavo {
 
 void ZvScheduleMainWidget::addNewChannel()
 {
-    if (!m_tabWidget)
+    // Before the start has read the channels nobody knows which ids are taken.
+    const bool isStarting = !m_tabsCreated && m_areaById.isEmpty();
+    if (!m_tabWidget || isStarting)
         return;
     m_tabWidget->finishEditing();
     QString error;
