@@ -5,11 +5,21 @@ namespace Zavo::HostNames {
 
 constexpr char helpMenu[] = "Menu_Help";
 constexpr char toolsMenu[] = "Menu_Tools";
+constexpr char configurationAction[] = "Action_Configuration";
 constexpr char checkAction[] = "Action_Check_Data";
 constexpr char tabWidget[] = "ScheduleTabWidget";
 constexpr char saveAction[] = "Action_Save_Channel";
 constexpr char saveAllAction[] = "Action_Save_All_Channel";
 constexpr char aboutAction[] = "Action_About";
+
+/// Key of the user settings.
+constexpr char dataFolderKey[] = "data_folder";
+
+constexpr char configurationDialog[] = "ConfigurationDialog";
+constexpr char dataFolderField[] = "ConfigurationDataFolder";
+constexpr char allInOneBox[] = "ConfigurationAllInOne";
+constexpr char defaultFirstBox[] = "ConfigurationDefaultScheduleUsedFirst";
+constexpr char removingDurationBox[] = "ConfigurationRemovingDuration";
 
 /// The actions behind which lies something that this program does not offer.
 constexpr const char *actionsNotOffered[] = {

@@ -1,5 +1,6 @@
 #include "HostWindow.h"
 
+#include "ConfigurationDialog.h"
 #include "Display.h"
 #include "HostNames.h"
 #include "ScenePurger.h"
@@ -79,6 +80,14 @@ void HostWindow::showVersionInformation()
     VersionBox(this).exec();
 }
 
+void HostWindow::showConfiguration()
+{
+    const bool isUploading = m_uploadDialog && m_uploadDialog->isUploading();
+    ConfigurationDialog dialog(isUploading, this);
+    if (dialog.exec() == QDialog::Accepted && m_uploadDialog && !isUploading)
+        m_uploadDialog->reloadTargets();
+}
+
 void HostWindow::showUploadManager()
 {
     if (!m_uploadDialog) {
@@ -131,6 +140,13 @@ QMenu *HostWindow::createToolsMenu()
     QAction *const check = menu->addAction(tr("&Check Data..."), this, SLOT(checkData()));
     check->setObjectName(QLatin1String(HostNames::checkAction));
     check->setStatusTip(tr("Looks for what is wrong in the saved channels and their stages"));
+    menu->addSeparator();
+    QAction *const configuration =
+        menu->addAction(tr("&Configuration..."), m_editor, SLOT(showConfiguration()));
+    configuration->setObjectName(QLatin1String(HostNames::configurationAction));
+    configuration->setStatusTip(
+        tr("Changes the data folder, what its schedules are shown by, and the upload targets"));
+    configuration->setMenuRole(QAction::PreferencesRole);
     return menu;
 }
 
@@ -151,6 +167,7 @@ void HostWindow::connectEditor()
     connect(m_editor, SIGNAL(requestQuit()), this, SLOT(close()));
     connect(m_editor, SIGNAL(requestShowVersionInformation()), this,
                              SLOT(showVersionInformation()));
+    connect(m_editor, SIGNAL(requestShowConfiguration()), this, SLOT(showConfiguration()));
     connect(m_editor, SIGNAL(requestShowUploadManager()), this, SLOT(showUploadManager()));
     connect(m_editor, SIGNAL(graphicsScenePurged(QGraphicsScene*)), m_scenePurger,
                              SLOT(purge(QGraphicsScene*)));

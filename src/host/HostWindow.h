@@ -54,6 +54,9 @@ public:
 public Q_SLOTS:
     void showVersionInformation();
 
+    /// Shows the configuration of the program and waits until it is closed.
+    void showConfiguration();
+
     /// Shows the upload manager, which stays open beside the editor.
     void showUploadManager();
 

@@ -2,6 +2,7 @@
 
 #include "Catalogues.h"
 #include "DataFolderCheck.h"
+#include "DataFolderChoice.h"
 #include "Display.h"
 #include "HostWindow.h"
 #include "ScreenshotTaker.h"
@@ -61,7 +62,9 @@ int Program::run()
     Catalogues catalogues(Catalogues::standardFolders());
     if (!catalogues.load(m_commandLine.language()))
         return fail(tr("\"%1\" is the name of no language.").arg(m_commandLine.language()));
-    if (!m_commandLine.dataDir().isEmpty())
+    if (m_commandLine.dataDir().isEmpty())
+        DataFolderChoice::apply();
+    else
         ZvEditorConfig::setDataDir(m_commandLine.dataDir());
     if (m_commandLine.wish() == CommandLine::Wish::Check)
         return CheckCommand(stdout, stderr, isatty(STDERR_FILENO) != 0).run();

@@ -3,15 +3,12 @@
 #include "ZvEditorConfig.h"
 #include "upload/UploadNames.h"
 #include "upload/UploadRun.h"
-#include "upload/UploadTargetDialog.h"
+#include "upload/UploadTargetList.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -19,13 +16,12 @@
 namespace Zavo {
 
 namespace {
-constexpr int targetColumn = 0;
 constexpr int progressColumn = 1;
 constexpr int resultColumn = 2;
-constexpr int dialogWidthInCharacters = 110;
+constexpr int dialogWidthInCharacters = 126;
 constexpr int dialogHeightInLines = 22;
-constexpr int shareOfTarget = 38; // of the width of the list, in percent
-constexpr int shareOfProgress = 20;
+constexpr int shareOfTarget = 32; // of the width of the list, in percent
+constexpr int shareOfProgress = 14;
 
 QIcon iconOf(UploadJob::State state, const QStyle &style)
 {
@@ -55,19 +51,15 @@ QProgressBar *createProgressBar(const QString &address)
 UploadDialog::UploadDialog(const QString &logFolder, QWidget *parent)
     : QDialog(parent)
     , m_logFolder(logFolder)
-    , m_list(new QTreeWidget(this))
+    , m_list(new UploadTargetList({tr("Progress"), tr("Result")}, this))
     , m_summary(new QLabel(this))
 {
     setObjectName(QLatin1String(UploadNames::dialog));
     setWindowTitle(tr("Upload"));
-    createList();
     auto *const label = new QLabel(
         tr("The saved channels and the stages they use go to every &target that is checked."),
         this);
     label->setBuddy(m_list);
-    auto *const middle = new QHBoxLayout;
-    middle->addWidget(m_list);
-    middle->addLayout(createListButtons());
     createRunButtons();
     auto *const bottom = new QHBoxLayout;
     bottom->addWidget(m_log);
@@ -80,17 +72,15 @@ UploadDialog::UploadDialog(const QString &logFolder, QWidget *parent)
     m_summary->setMinimumHeight(2 * fontMetrics().lineSpacing());
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(label);
-    layout->addLayout(middle);
+    layout->addWidget(m_list);
     layout->addWidget(m_summary);
     layout->addLayout(bottom);
     resize(fontMetrics().averageCharWidth() * dialogWidthInCharacters,
            fontMetrics().lineSpacing() * dialogHeightInLines);
-    m_list->setColumnWidth(targetColumn, width() * shareOfTarget / 100);
-    m_list->setColumnWidth(progressColumn, width() * shareOfProgress / 100);
-    const QList<ListedTarget> targets = UploadTargets::load();
-    for (const ListedTarget &listed : targets)
-        addItem(listed);
-    updateButtons();
+    m_list->tree()->setColumnWidth(UploadTargetList::targetColumn, width() * shareOfTarget / 100);
+    m_list->tree()->setColumnWidth(progressColumn, width() * shareOfProgress / 100);
+    connect(m_list, SIGNAL(changed()), this, SLOT(onTargetsChanged()));
+    reloadTargets();
 }
 
 UploadDialog::~UploadDialog()
@@ -109,15 +99,15 @@ void UploadDialog::cancelUpload()
         m_run->cancel();
 }
 
+void UploadDialog::reloadTargets()
+{
+    m_list->setTargets(UploadTargets::load());
+    updateButtons();
+}
+
 void UploadDialog::upload()
 {
-    QList<UploadTarget> targets;
-    for (int index = 0; index < m_list->topLevelItemCount(); ++index) {
-        const QTreeWidgetItem *const item = m_list->topLevelItem(index);
-        if (item->checkState(targetColumn) == Qt::Checked)
-            targets.append(UploadTarget(item->text(targetColumn)));
-    }
-    start(targets);
+    start(m_list->selectedTargets());
 }
 
 void UploadDialog::retry()
@@ -125,29 +115,9 @@ void UploadDialog::retry()
     start(targetsToRetry());
 }
 
-void UploadDialog::addTarget()
+void UploadDialog::onTargetsChanged()
 {
-    editTarget(nullptr);
-}
-
-void UploadDialog::changeTarget()
-{
-    if (QTreeWidgetItem *const item = currentItem())
-        editTarget(item);
-}
-
-void UploadDialog::removeTarget()
-{
-    delete currentItem();
-    storeTargets();
-    updateButtons();
-}
-
-void UploadDialog::onItemChanged(QTreeWidgetItem *, int column)
-{
-    if (m_isFilling || column != targetColumn)
-        return;
-    storeTargets();
+    UploadTargets::store(m_list->targets());
     updateButtons();
 }
 
@@ -179,50 +149,10 @@ void UploadDialog::onRunFinished()
 void UploadDialog::updateButtons()
 {
     const bool idle = !isUploading();
-    const bool hasCurrent = currentItem() != nullptr;
-    bool hasChecked = false;
-    for (int index = 0; index < m_list->topLevelItemCount() && !hasChecked; ++index)
-        hasChecked = m_list->topLevelItem(index)->checkState(targetColumn) == Qt::Checked;
-    m_add->setEnabled(idle);
-    m_change->setEnabled(idle && hasCurrent);
-    m_remove->setEnabled(idle && hasCurrent);
-    m_upload->setEnabled(idle && hasChecked);
+    m_list->setEditable(idle);
+    m_upload->setEnabled(idle && !m_list->selectedTargets().isEmpty());
     m_retry->setEnabled(idle && !targetsToRetry().isEmpty());
     m_cancel->setEnabled(!idle);
-}
-
-void UploadDialog::createList()
-{
-    m_list->setObjectName(QLatin1String(UploadNames::targetList));
-    m_list->setAccessibleName(tr("Targets of uploads"));
-    m_list->setHeaderLabels({tr("Target"), tr("Progress"), tr("Result")});
-    m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
-    m_list->setAllColumnsShowFocus(true);
-    m_list->header()->setSectionsMovable(false);
-    // clang-format off
-    connect(m_list, SIGNAL(itemChanged(QTreeWidgetItem*,int)), this,
-                    SLOT(onItemChanged(QTreeWidgetItem*,int)));
-    connect(m_list, SIGNAL(currentItemChanged(QTreeWidgetItem*,QTreeWidgetItem*)), this,
-                    SLOT(updateButtons()));
-    connect(m_list, SIGNAL(itemSelectionChanged()), this, SLOT(updateButtons()));
-    // clang-format on
-}
-
-QVBoxLayout *UploadDialog::createListButtons()
-{
-    m_add = createButton(UploadNames::addButton, tr("&Add..."), tr("Enter a new target"),
-                         SLOT(addTarget()));
-    m_change = createButton(UploadNames::changeButton, tr("C&hange..."),
-                            tr("Change the address of the chosen target"), SLOT(changeTarget()));
-    m_remove = createButton(UploadNames::removeButton, tr("&Remove"),
-                            tr("Take the chosen target from the list; what lies there stays"),
-                            SLOT(removeTarget()));
-    auto *const layout = new QVBoxLayout;
-    for (QPushButton *button : {m_add, m_change, m_remove})
-        layout->addWidget(button);
-    layout->addStretch();
-    return layout;
 }
 
 void UploadDialog::createRunButtons()
@@ -254,56 +184,6 @@ QPushButton *UploadDialog::createButton(const char *name, const QString &text,
     return button;
 }
 
-QTreeWidgetItem *UploadDialog::addItem(const ListedTarget &listed)
-{
-    const QScopedValueRollback<bool> filling(m_isFilling, true);
-    auto *const item = new QTreeWidgetItem(m_list, {listed.target.address()});
-    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
-                   Qt::ItemNeverHasChildren);
-    item->setCheckState(targetColumn, listed.selected ? Qt::Checked : Qt::Unchecked);
-    item->setToolTip(targetColumn, listed.target.address());
-    return item;
-}
-
-void UploadDialog::editTarget(QTreeWidgetItem *item)
-{
-    UploadTargetDialog dialog(item ? item->text(targetColumn) : QString(), this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const UploadTarget target = dialog.target();
-    QTreeWidgetItem *const known = itemOf(target);
-    if (known && known != item) {
-        QMessageBox::warning(this, dialog.windowTitle(),
-                             tr("The target \"%1\" is in the list already.").arg(target.address()));
-        return;
-    }
-    if (!item) {
-        item = addItem({target, true});
-    } else {
-        item->setText(targetColumn, target.address());
-        item->setToolTip(targetColumn, target.address());
-        clearResult(item);
-    }
-    m_list->setCurrentItem(item);
-    storeTargets();
-    updateButtons();
-}
-
-QTreeWidgetItem *UploadDialog::itemOf(const UploadTarget &target) const
-{
-    for (int index = 0; index < m_list->topLevelItemCount(); ++index) {
-        if (m_list->topLevelItem(index)->text(targetColumn) == target.address())
-            return m_list->topLevelItem(index);
-    }
-    return nullptr;
-}
-
-QTreeWidgetItem *UploadDialog::currentItem() const
-{
-    const QList<QTreeWidgetItem *> selected = m_list->selectedItems();
-    return selected.isEmpty() ? nullptr : selected.constFirst();
-}
-
 QList<UploadTarget> UploadDialog::targetsToRetry() const
 {
     QList<UploadTarget> targets;
@@ -311,7 +191,7 @@ QList<UploadTarget> UploadDialog::targetsToRetry() const
         return targets;
     for (const UploadJob *job : m_run->jobs()) {
         const bool isMissing = job->isOver() && job->state() != UploadJob::State::Done;
-        if (isMissing && itemOf(job->target()))
+        if (isMissing && m_list->itemOf(job->target()))
             targets.append(job->target());
     }
     return targets;
@@ -325,8 +205,8 @@ void UploadDialog::start(const QList<UploadTarget> &targets)
     m_run = new UploadRun(ZvEditorConfig::dataDir(), m_logFolder, this);
     connect(m_run, SIGNAL(changed()), this, SLOT(onRunChanged()));
     connect(m_run, SIGNAL(finished()), this, SLOT(onRunFinished()));
-    for (int index = 0; index < m_list->topLevelItemCount(); ++index)
-        clearResult(m_list->topLevelItem(index));
+    for (int index = 0; index < m_list->tree()->topLevelItemCount(); ++index)
+        clearResult(m_list->tree()->topLevelItem(index));
     m_summary->setText(tr("Uploading..."));
     m_summary->setToolTip(QString());
     m_run->start(targets);
@@ -336,14 +216,13 @@ void UploadDialog::start(const QList<UploadTarget> &targets)
 void UploadDialog::showJob(int index)
 {
     const UploadJob *const job = m_run->jobs().at(index);
-    QTreeWidgetItem *const item = itemOf(job->target());
+    QTreeWidgetItem *const item = m_list->itemOf(job->target());
     if (!item)
         return;
-    const QScopedValueRollback<bool> filling(m_isFilling, true);
-    auto *bar = qobject_cast<QProgressBar *>(m_list->itemWidget(item, progressColumn));
+    auto *bar = qobject_cast<QProgressBar *>(m_list->tree()->itemWidget(item, progressColumn));
     if (!bar) {
         bar = createProgressBar(job->target().address());
-        m_list->setItemWidget(item, progressColumn, bar);
+        m_list->tree()->setItemWidget(item, progressColumn, bar);
     }
     // Without an end while nobody knows how much there is to do.
     bar->setMaximum(job->state() == UploadJob::State::Waiting ? 0 : 100);
@@ -354,21 +233,9 @@ void UploadDialog::showJob(int index)
                      (QStringList(job->message()) + job->details()).join(QLatin1Char('\n')));
 }
 
-void UploadDialog::storeTargets() const
-{
-    QList<ListedTarget> targets;
-    for (int index = 0; index < m_list->topLevelItemCount(); ++index) {
-        const QTreeWidgetItem *const item = m_list->topLevelItem(index);
-        targets.append({UploadTarget(item->text(targetColumn)),
-                        item->checkState(targetColumn) == Qt::Checked});
-    }
-    UploadTargets::store(targets);
-}
-
 void UploadDialog::clearResult(QTreeWidgetItem *item)
 {
-    const QScopedValueRollback<bool> filling(m_isFilling, true);
-    m_list->removeItemWidget(item, progressColumn);
+    m_list->tree()->removeItemWidget(item, progressColumn);
     item->setText(resultColumn, QString());
     item->setIcon(resultColumn, QIcon());
     item->setToolTip(resultColumn, QString());

@@ -7,13 +7,12 @@
 
 class QLabel;
 class QPushButton;
-class QTreeWidget;
 class QTreeWidgetItem;
-class QVBoxLayout;
 
 namespace Zavo {
 
 class UploadRun;
+class UploadTargetList;
 
 /// The upload manager: the user's list of targets, and the upload to those that are selected. An
 /// upload goes on while the dialog is closed, and ends with the dialog when that dies.
@@ -28,6 +27,9 @@ public:
 
     bool isUploading() const;
 
+    /// Shows the list of targets as it is stored; not to be called during an upload.
+    void reloadTargets();
+
 public Q_SLOTS:
     /// Cancels what is going on; without an upload nothing happens.
     void cancelUpload();
@@ -39,43 +41,29 @@ Q_SIGNALS:
 private Q_SLOTS:
     void upload();
     void retry();
-    void addTarget();
-    void changeTarget();
-    void removeTarget();
-    void onItemChanged(QTreeWidgetItem *item, int column);
+    void onTargetsChanged();
     void onRunChanged();
     void onRunFinished();
     void updateButtons();
 
 private:
-    void createList();
-    QVBoxLayout *createListButtons();
     void createRunButtons();
     QPushButton *createButton(const char *name, const QString &text, const QString &toolTip,
                               const char *slot);
-    QTreeWidgetItem *addItem(const ListedTarget &listed);
-    void editTarget(QTreeWidgetItem *item);
-    QTreeWidgetItem *itemOf(const UploadTarget &target) const;
-    QTreeWidgetItem *currentItem() const;
     QList<UploadTarget> targetsToRetry() const;
     void start(const QList<UploadTarget> &targets);
     void showJob(int index);
-    void storeTargets() const;
     void clearResult(QTreeWidgetItem *item);
 
     const QString m_logFolder;
     UploadRun *m_run = nullptr; // the last one, null before the first
-    QTreeWidget *m_list = nullptr;
+    UploadTargetList *m_list = nullptr;
     QLabel *m_summary = nullptr;
-    QPushButton *m_add = nullptr;
-    QPushButton *m_change = nullptr;
-    QPushButton *m_remove = nullptr;
     QPushButton *m_upload = nullptr;
     QPushButton *m_retry = nullptr;
     QPushButton *m_cancel = nullptr;
     QPushButton *m_log = nullptr;
     QPushButton *m_close = nullptr;
-    bool m_isFilling = false;
 };
 
 } // namespace Zavo

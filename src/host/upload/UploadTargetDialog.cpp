@@ -4,6 +4,7 @@
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,11 +26,15 @@ UploadTargetDialog::UploadTargetDialog(const QString &address, QWidget *parent)
     setWindowTitle(address.isEmpty() ? tr("Add Target") : tr("Change Target"));
     auto *const label = new QLabel(tr("&Address of the target:"), this);
     label->setBuddy(m_address);
-    auto *const forms = new QLabel(tr("A folder, such as a mounted share:\t/mnt/display\n"
-                                      "An rsync daemon:\trsync://display/module\n"
-                                      "A machine reached by ssh:\tuser@display:/srv/zavo"),
-                                   this);
-    forms->setTextFormat(Qt::PlainText);
+    auto *const forms = new QFormLayout;
+    const auto addForm = [this, forms](const QString &kind, const QString &example) {
+        auto *const exampleLabel = new QLabel(example, this);
+        exampleLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        forms->addRow(kind, exampleLabel);
+    };
+    addForm(tr("A folder, such as a mounted share:"), QStringLiteral("/mnt/display"));
+    addForm(tr("An rsync daemon:"), QStringLiteral("rsync://display/module"));
+    addForm(tr("A machine reached by ssh:"), QStringLiteral("user@display:/srv/zavo"));
     m_address->setObjectName(QLatin1String(UploadNames::addressField));
     m_address->setMinimumWidth(fontMetrics().averageCharWidth() * fieldWidthInCharacters);
     m_address->setAccessibleName(tr("Address of the target"));
@@ -48,7 +53,7 @@ UploadTargetDialog::UploadTargetDialog(const QString &address, QWidget *parent)
     layout->addWidget(label);
     layout->addLayout(row);
     layout->addWidget(m_problem);
-    layout->addWidget(forms);
+    layout->addLayout(forms);
     layout->addStretch();
     layout->addWidget(m_buttons);
     connect(m_address, SIGNAL(textChanged(QString)), this, SLOT(onAddressChanged()));
