@@ -44,6 +44,7 @@ private Q_SLOTS:
     void tellsOfASessionThatDidNotEnd();
     void checksWithoutADisplay_data();
     void checksWithoutADisplay();
+    void standsAKill();
 
 private:
     Run run(const QStringList &arguments,
@@ -323,6 +324,29 @@ void tst_Program::checksWithoutADisplay()
     QCOMPARE(result.errors.isEmpty(), result.exitCode != 2);
     QCOMPARE(result.output.isEmpty(), result.exitCode == 2);
     QCOMPARE(m_folder->names(), names);
+}
+
+void tst_Program::standsAKill()
+{
+    QProcess first;
+    first.start(QStringLiteral(ZAVO_PROGRAM), {QStringLiteral("--data-dir"), data()});
+    QVERIFY(first.waitForStarted());
+    QTRY_COMPARE_WITH_TIMEOUT(m_folder->names(QStringLiteral("channel")).size(), 11, 60000);
+    QTRY_VERIFY(m_folder->names().contains(QStringLiteral(".zavo-session")));
+    const QStringList arguments{QStringLiteral("--data-dir"), data(),
+                                QStringLiteral("--screenshot"),
+                                m_folder->filePath(QStringLiteral("picture.png"))};
+    const Run second = run(arguments);
+    QCOMPARE(second.exitCode, 3);
+    QVERIFY2(second.errors.contains(QString::number(first.processId())), qPrintable(second.errors));
+    first.kill();
+    QVERIFY(first.waitForFinished());
+    const Run third = run(arguments);
+    QCOMPARE(third.exitCode, 0);
+    QVERIFY2(third.errors.contains(QStringLiteral("did not end properly")),
+             qPrintable(third.errors));
+    QVERIFY2(third.errors.contains(QStringLiteral("no edits that were not saved")),
+             qPrintable(third.errors));
 }
 
 QTEST_GUILESS_MAIN(tst_Program)

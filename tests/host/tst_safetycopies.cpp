@@ -60,6 +60,8 @@ private Q_SLOTS:
     void noticesAtTheLastMoment();
     void asksNobodyBesideTheGuiThread();
     void leavesOtherFilesAlone();
+    void knowsAFileBehindALink();
+    void keepsThePermissions();
     void savesAndLooksAtOnce();
     void tellsTheDifference();
     void tellsOfNameAndPlace();
@@ -427,6 +429,37 @@ void tst_SafetyCopies::leavesOtherFilesAlone()
         QVERIFY(DurableFile::write(m_folder->filePath(QLatin1String(name)), "x"));
     states.look();
     QVERIFY(m_store->fileNames().isEmpty());
+}
+
+void tst_SafetyCopies::knowsAFileBehindALink()
+{
+    const QString target = m_folder->write(QStringLiteral("elsewhere/lobby.xml"), "one");
+    QVERIFY(QFile::link(target, channelPath()));
+    ChannelStates states(m_folder->path(), m_store.get());
+    const ChannelGuard guard(&states, m_store.get());
+    states.look();
+    QVERIFY(DurableFile::write(channelPath(), "two"));
+    QCOMPARE(m_folder->read(QStringLiteral("elsewhere/lobby.xml")), QByteArray("two"));
+    states.look();
+    QVERIFY(states.look().byOthers.isEmpty());
+    QCOMPARE(kept(), QList<QByteArray>({"two", "one"}));
+    m_folder->write(QStringLiteral("elsewhere/lobby.xml"), "theirs");
+    QVERIFY(!DurableFile::write(channelPath(), "ours"));
+    QCOMPARE(m_folder->read(QStringLiteral("elsewhere/lobby.xml")), QByteArray("theirs"));
+    // A link that leads nowhere is no channel.
+    QVERIFY(QFile::link(m_folder->filePath(QStringLiteral("none.xml")), channelPath(1)));
+    states.look();
+    QVERIFY(kept(1).isEmpty());
+}
+
+void tst_SafetyCopies::keepsThePermissions()
+{
+    const QFile::Permissions secret = QFile::ReadOwner | QFile::WriteOwner;
+    QVERIFY(QFile::setPermissions(write("one"), secret));
+    m_store->keep(channelPath());
+    const QString copy = m_store->states(QStringLiteral("channel0.xml")).constFirst().path;
+    const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther;
+    QVERIFY(!(QFile::permissions(copy) & others));
 }
 
 // Each save of the one thread is seen whole by the other, and is never taken for a stranger's.

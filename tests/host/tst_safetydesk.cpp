@@ -4,6 +4,7 @@
 #include "DragGesture.h"
 #include "HostWindow.h"
 #include "MessageBoxAnswer.h"
+#include "Program.h"
 #include "TemporaryDataFolder.h"
 #include "ZvChannel.h"
 #include "ZvSchedule.h"
@@ -15,13 +16,17 @@
 
 #include <QAction>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QGraphicsView>
+#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QtTest>
+
+#include <utility>
 
 using Zavo::BackupDialog;
 using Zavo::BackupState;
@@ -59,11 +64,13 @@ private Q_SLOTS:
     void staysOpenWhileItAsks();
     void keepsWhatTheResetRemoves();
     void showsTheCopies();
+    void showsAThousandChannelsAtOnce();
     void restoresNothingWithoutAWord();
     void restoresAState();
     void restoresTheBasicChannelWithItsCopy();
     void restoresNoDamage();
     void bringsBackADeletedChannel();
+    void opensAnewOnTheRestoredState();
 
 private:
     void start();
@@ -76,6 +83,8 @@ private:
     NoticeBar *notices() const { return m_window->findChild<NoticeBar *>(); }
     static QTreeWidget *states(const BackupDialog *dialog);
     static QPushButton *restoreButton(const BackupDialog *dialog);
+    static void restoreFirst(const BackupDialog *dialog, int number);
+    static HostWindow *openWindow();
 
     std::unique_ptr<TemporaryDataFolder> m_folder;
     std::unique_ptr<SafetyNet> m_net;
@@ -175,6 +184,28 @@ QPushButton *tst_SafetyDesk::restoreButton(const BackupDialog *dialog)
     return dialog->findChild<QPushButton *>(QStringLiteral("Safety_Restore_Button"));
 }
 
+void tst_SafetyDesk::restoreFirst(const BackupDialog *dialog, int number)
+{
+    auto *const channels = dialog->findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
+    channels->setCurrentItem(
+        channels->findItems(QStringLiteral("channel%1.xml").arg(number), Qt::MatchContains)
+            .constFirst());
+    QTreeWidget *const tree = states(dialog);
+    tree->setCurrentItem(tree->topLevelItem(tree->topLevelItemCount() - 1));
+    QTRY_VERIFY(restoreButton(dialog)->isEnabled());
+    restoreButton(dialog)->click();
+}
+
+HostWindow *tst_SafetyDesk::openWindow()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible() && qobject_cast<HostWindow *>(widget))
+            return static_cast<HostWindow *>(widget);
+    }
+    return nullptr;
+}
+
 void tst_SafetyDesk::keepsTheFirstChannels()
 {
     for (int number = 0; number < 10; ++number) {
@@ -247,6 +278,9 @@ void tst_SafetyDesk::noticesAnotherProgram()
     QVERIFY2(notices()->text().contains(QStringLiteral("channel3.xml")),
              qPrintable(notices()->text()));
     QCOMPARE(m_net->store()->states(QStringLiteral("channel3.xml")).size(), 2);
+    const auto *const label = notices()->findChild<QLabel *>(QStringLiteral("Safety_Notice_Label"));
+    QVERIFY(label->width() > m_window->width() / 2);
+    QVERIFY(notices()->height() < 3 * label->fontMetrics().height());
     notices()->findChild<QAction *>(QStringLiteral("Action_Close_Safety_Notice"))->trigger();
     QVERIFY(notices()->isHidden());
     QTRY_COMPARE(m_window->centralWidget()->size(), size);
@@ -329,7 +363,7 @@ void tst_SafetyDesk::showsTheCopies()
         QVERIFY(channels->count() >= 10);
         const auto found = channels->findItems(QStringLiteral("channel1.xml"), Qt::MatchContains);
         QCOMPARE(found.size(), 1);
-        QCOMPARE(found.constFirst()->text(), QStringLiteral("Ch.1  (channel1.xml)"));
+        QTRY_COMPARE(found.constFirst()->text(), QStringLiteral("Ch.1  (channel1.xml)"));
         channels->setCurrentItem(found.constFirst());
         QCOMPARE(states(dialog)->topLevelItemCount(), 2);
         QTRY_COMPARE(states(dialog)->topLevelItem(0)->text(1), QStringLiteral("as it is now"));
@@ -352,22 +386,36 @@ void tst_SafetyDesk::showsTheCopies()
     QVERIFY(!m_desk->wantedState());
 }
 
+void tst_SafetyDesk::showsAThousandChannelsAtOnce()
+{
+    constexpr int count = 1000;
+    const QByteArray content = channel();
+    for (int number = 100; number < 100 + count; ++number) {
+        const QString folder = QStringLiteral("backup/channel%1.xml/").arg(number);
+        m_folder->write(folder + QStringLiteral("2026-11-21T04-05-00.000Z.xml"), content);
+    }
+    m_folder->makeFolder(QStringLiteral("backup/channel9999.xml"));
+    QElapsedTimer timer;
+    timer.start();
+    BackupDialog dialog(m_folder->path(), m_net->store());
+    // A loaded machine may take some of it.
+    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    dialog.show();
+    auto *const channels = dialog.findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
+    QTRY_VERIFY(channels->item(channels->count() - 1)->text().startsWith(QStringLiteral("Ch.0")));
+    QVERIFY(channels->findItems(QStringLiteral("9999"), Qt::MatchContains).isEmpty());
+    QCOMPARE(channels->findItems(QStringLiteral("Ch."), Qt::MatchStartsWith).size(),
+             channels->count());
+    QVERIFY(channels->count() >= count + 10);
+}
+
 void tst_SafetyDesk::restoresNothingWithoutAWord()
 {
     drop();
     trigger("Action_Save_Channel");
     MessageBoxAnswer box;
     box.expect(QMessageBox::No).title(QStringLiteral("Restore Channel"));
-    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) {
-        auto *const channels =
-            dialog->findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
-        channels->setCurrentItem(
-            channels->findItems(QStringLiteral("channel0.xml"), Qt::MatchContains).constFirst());
-        QTreeWidgetItem *const item = states(dialog)->topLevelItem(1);
-        states(dialog)->setCurrentItem(item);
-        QTRY_VERIFY(restoreButton(dialog)->isEnabled());
-        restoreButton(dialog)->click();
-    });
+    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) { restoreFirst(dialog, 0); });
     m_desk->showCopies();
     QVERIFY(answer.hasCome());
     QVERIFY(!m_desk->wantedState());
@@ -384,15 +432,7 @@ void tst_SafetyDesk::restoresAState()
     MessageBoxAnswer box;
     box.expect(QMessageBox::Yes).title(QStringLiteral("Restore Channel"));
     box.expect(QMessageBox::Yes).text(QStringLiteral("The channel \"Ch.3\" has been modified."));
-    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) {
-        auto *const channels =
-            dialog->findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
-        channels->setCurrentItem(
-            channels->findItems(QStringLiteral("channel2.xml"), Qt::MatchContains).constFirst());
-        states(dialog)->setCurrentItem(states(dialog)->topLevelItem(1));
-        QTRY_VERIFY(restoreButton(dialog)->isEnabled());
-        restoreButton(dialog)->click();
-    });
+    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) { restoreFirst(dialog, 2); });
     m_desk->showCopies();
     QVERIFY(!m_window->isVisible());
     const auto wanted = m_desk->wantedState();
@@ -436,6 +476,47 @@ void tst_SafetyDesk::bringsBackADeletedChannel()
     QCOMPARE(kept.size(), 1);
     QVERIFY(SafetyDesk::restore(m_folder->path(), kept.constFirst()));
     QCOMPARE(channel(5), before);
+}
+
+// The whole program: two windows, one after the other, and in between the file.
+void tst_SafetyDesk::opensAnewOnTheRestoredState()
+{
+    drop(2);
+    trigger("Action_Save_Channel");
+    const QByteArray after = channel(2);
+    end();
+
+    QList<QPointer<HostWindow>> windows;
+    bool isAsked = false;
+    QTimer person;
+    connect(&person, &QTimer::timeout, this, [&] {
+        const auto *const tabs =
+            openWindow()
+                ? openWindow()->findChild<QTabWidget *>(QStringLiteral("ScheduleTabWidget"))
+                : nullptr;
+        if (!tabs || tabs->count() == 0)
+            return;
+        if (!windows.contains(openWindow()))
+            windows.append(openWindow());
+        if (!std::exchange(isAsked, true)) {
+            openWindow()->findChild<QAction *>(QStringLiteral("Action_Safety_Copies"))->trigger();
+        } else if (windows.size() == 2) {
+            windows.last()->close();
+        }
+    });
+    DialogAnswer<BackupDialog> answer([](BackupDialog *dialog) { restoreFirst(dialog, 2); });
+    MessageBoxAnswer box;
+    box.expect(QMessageBox::Yes).title(QStringLiteral("Restore Channel"));
+    person.start(50);
+    Zavo::Program program({QStringLiteral("test"), QStringLiteral("--data-dir"), m_folder->path()});
+    QCOMPARE(program.run(), 0);
+    person.stop();
+    QVERIFY(answer.hasCome());
+    QCOMPARE(windows.size(), 2);
+    QVERIFY(channel(2) != after);
+    QVERIFY(!channel(2).contains("a.xml"));
+    QVERIFY(m_folder->names(QStringLiteral("backup/channel2.xml")).size() == 2);
+    QVERIFY(!m_folder->names().contains(QStringLiteral(".zavo-session")));
 }
 
 QTEST_MAIN(tst_SafetyDesk)

@@ -56,7 +56,7 @@ std::optional<BackupState> BackupDialog::chosenState() const
     const QTreeWidgetItem *const item = m_tree->currentItem();
     if (!item || !item->isSelected() || !item->data(DateColumn, restorableRole).toBool())
         return std::nullopt;
-    return m_states.at(m_tree->indexOfTopLevelItem(const_cast<QTreeWidgetItem *>(item)));
+    return m_states.at(m_tree->currentIndex().row());
 }
 
 QString BackupDialog::titleOf(const BackupState &state)
@@ -141,6 +141,7 @@ void BackupDialog::connectWidgets()
 {
     // clang-format off
     connect(m_channels, SIGNAL(currentRowChanged(int)), this, SLOT(showStates()));
+    connect(&m_nameTimer, SIGNAL(timeout()), this, SLOT(nameNext()));
     connect(m_tree, SIGNAL(itemSelectionChanged()), this, SLOT(updateButton()));
     connect(&m_comparer, SIGNAL(compared(QString,QString,bool)),
             this, SLOT(onCompared(QString,QString,bool)), Qt::QueuedConnection);
@@ -151,16 +152,40 @@ void BackupDialog::fillChannels()
 {
     const QStringList fileNames = m_store->fileNames();
     for (const QString &fileName : fileNames) {
-        const QList<BackupState> states = m_store->states(fileName);
-        if (states.isEmpty())
-            continue;
-        const QString name = nameInFile(states.constFirst().path);
-        auto *const item = new QListWidgetItem(
-            name.isEmpty() ? fileName : QStringLiteral("%1  (%2)").arg(name, fileName), m_channels);
+        auto *const item = new QListWidgetItem(fileName, m_channels);
         item->setData(Qt::UserRole, fileName);
     }
     m_channels->setCurrentRow(0);
+    m_channels->setFocus();
     updateButton();
+    m_nameTimer.start(0);
+}
+
+void BackupDialog::nameNext()
+{
+    constexpr int namesAtOnce = 20;
+    for (int count = 0; count < namesAtOnce; ++count) {
+        if (m_namedCount >= m_channels->count()) {
+            m_nameTimer.stop();
+            return;
+        }
+        nameChannel(m_namedCount);
+    }
+}
+
+void BackupDialog::nameChannel(int row)
+{
+    QListWidgetItem *const item = m_channels->item(row);
+    const QString fileName = item->data(Qt::UserRole).toString();
+    const QList<BackupState> states = m_store->states(fileName);
+    if (states.isEmpty()) {
+        delete item;
+        return;
+    }
+    const QString name = nameInFile(states.constFirst().path);
+    if (!name.isEmpty())
+        item->setText(QStringLiteral("%1  (%2)").arg(name, fileName));
+    ++m_namedCount;
 }
 
 } // namespace Zavo

@@ -4,6 +4,8 @@
 #include "safety/StateComparer.h"
 
 #include <QDialog>
+#include <QHash>
+#include <QTimer>
 
 #include <optional>
 
@@ -34,16 +36,21 @@ private Q_SLOTS:
     void showStates();
     void onCompared(const QString &path, const QString &text, bool isRestorable);
     void updateButton();
+    /// Reads some more names, so that the window stays alive over a thousand channels.
+    void nameNext();
 
 private:
     void createWidgets();
     void connectWidgets();
     void fillChannels();
+    void nameChannel(int row);
 
     const BackupStore *m_store = nullptr;
     StateComparer m_comparer;
     QList<BackupState> m_states;
     QHash<QString, QTreeWidgetItem *> m_itemOfPath;
+    QTimer m_nameTimer;
+    int m_namedCount = 0;
     QListWidget *m_channels = nullptr;
     QTreeWidget *m_tree = nullptr;
     QPushButton *m_restoreButton = nullptr;

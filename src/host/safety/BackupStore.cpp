@@ -88,7 +88,8 @@ BackupStore::Result BackupStore::keep(const QString &filePath)
     QByteArray bytes;
     if (!BoundedFile::read(filePath, ChannelFile::MaximumBytes, &bytes))
         return fail(QStringLiteral("%1: %2").arg(info.fileName(), qt_error_string(errno)));
-    const Result result = keepState(info.fileName(), bytes, info.lastModified());
+    const Result result =
+        keepState(info.fileName(), bytes, {info.lastModified(), info.permissions()});
     // A file that was written to while it was read is looked at again.
     if (result != Result::Failed && FileStamp::of(filePath) == stamp) {
         m_kept.insert(info.fileName(), {stamp, Path::combine(folderOf(info.fileName()),
@@ -101,7 +102,7 @@ BackupStore::Result BackupStore::keepBytes(const QString &fileName, const QByteA
 {
     const QMutexLocker locker(&m_mutex);
     m_kept.remove(fileName);
-    return keepState(fileName, bytes, QDateTime::currentDateTime());
+    return keepState(fileName, bytes, {QDateTime::currentDateTime(), {}});
 }
 
 void BackupStore::sync() const
@@ -130,7 +131,7 @@ QStringList BackupStore::copiesOf(const QString &fileName) const
 }
 
 BackupStore::Result BackupStore::keepState(const QString &fileName, const QByteArray &bytes,
-                                           const QDateTime &modified)
+                                           const Origin &origin)
 {
     const QString folder = folderOf(fileName);
     if (!QDir().mkpath(folder))
@@ -142,7 +143,7 @@ BackupStore::Result BackupStore::keepState(const QString &fileName, const QByteA
     if (same != copies.cend() && same == copies.cbegin())
         return Result::Unchanged;
     const QString path = pathOfNext(fileName, copies);
-    if (!write(path, bytes, modified))
+    if (!write(path, bytes, origin))
         return Result::Failed;
     if (same != copies.cend())
         QFile::remove(Path::combine(folder, *same));
@@ -159,12 +160,14 @@ QString BackupStore::pathOfNext(const QString &fileName, const QStringList &copi
     return Path::combine(folderOf(fileName), moment.toString(QString(momentFormat)) + copySuffix);
 }
 
-bool BackupStore::write(const QString &path, const QByteArray &bytes, const QDateTime &modified)
+bool BackupStore::write(const QString &path, const QByteArray &bytes, const Origin &origin)
 {
     QFile file(Path::combine(QFileInfo(path).path(), incomingName));
+    file.remove();
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
                          file.write(bytes) == bytes.size() && file.flush() &&
-                         file.setFileTime(modified, QFileDevice::FileModificationTime);
+                         file.setFileTime(origin.modified, QFileDevice::FileModificationTime) &&
+                         (!origin.permissions || file.setPermissions(origin.permissions));
     const QString reason = file.errorString();
     file.close();
     if (written && file.error() == QFileDevice::NoError && file.rename(path))

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QFile>
 #include <QHash>
 #include <QList>
 #include <QMutex>
@@ -72,9 +73,15 @@ private:
 
     QString folderOf(const QString &fileName) const;
     QStringList copiesOf(const QString &fileName) const;
-    Result keepState(const QString &fileName, const QByteArray &bytes, const QDateTime &modified);
+    struct Origin
+    {
+        QDateTime modified;
+        QFile::Permissions permissions; // none: those of a new file
+    };
+
+    Result keepState(const QString &fileName, const QByteArray &bytes, const Origin &origin);
     QString pathOfNext(const QString &fileName, const QStringList &copies) const;
-    bool write(const QString &path, const QByteArray &bytes, const QDateTime &modified);
+    bool write(const QString &path, const QByteArray &bytes, const Origin &origin);
     void removeOldest(const QString &fileName);
     Result fail(const QString &reason);
 

@@ -33,8 +33,8 @@ void ChannelGuard::setQuestion(const Question &question)
 
 int ChannelGuard::rename(const char *from, const char *to)
 {
-    const QString filePath = QFile::decodeName(to);
-    if (!m_states->isChannelFile(filePath))
+    const QString filePath = m_states->channelFileOf(QFile::decodeName(to));
+    if (filePath.isEmpty())
         return FileSystemCalls::rename(from, to);
     if (m_states->isChangedByOthers(filePath) && !mayReplace(filePath)) {
         keepRefused(filePath, QFile::decodeName(from));

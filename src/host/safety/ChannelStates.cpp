@@ -24,10 +24,17 @@ ChannelStates::ChannelStates(const QString &dataDir, BackupStore *store)
         m_known.insert(name, {FileStamp::of(Path::combine(m_folder, name)), false});
 }
 
-bool ChannelStates::isChannelFile(const QString &path) const
+QString ChannelStates::channelFileOf(const QString &path) const
 {
     const QFileInfo info(path);
-    return info.path() == m_folder && !info.fileName().startsWith(QLatin1Char('.'));
+    if (info.path() == m_folder)
+        return info.fileName().startsWith(QLatin1Char('.')) ? QString() : path;
+    const QString target = info.canonicalFilePath();
+    const QFileInfoList all = QDir(m_folder).entryInfoList(QDir::Files, QDir::Unsorted);
+    const auto link = std::find_if(all.cbegin(), all.cend(), [&target](const QFileInfo &entry) {
+        return entry.isSymLink() && !target.isEmpty() && entry.canonicalFilePath() == target;
+    });
+    return link == all.cend() ? QString() : link->filePath();
 }
 
 ChannelStates::Changes ChannelStates::look()

@@ -29,8 +29,9 @@ public:
     /// they hold now is what the editor is going to show.
     ChannelStates(const QString &dataDir, BackupStore *store);
 
-    /// True if @p path names a file of the channel folder that copies are kept of.
-    bool isChannelFile(const QString &path) const;
+    /// The file of the channel folder that is written to when @p path is: itself, or the link in
+    /// that folder that leads to it. Empty for every other file, and for hidden ones.
+    QString channelFileOf(const QString &path) const;
 
     /// Looks for files that changed and copies what they hold. A change counts once it has lasted
     /// from one look to the next, so that nobody is caught in the middle of writing; the first look

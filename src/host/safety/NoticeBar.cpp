@@ -3,31 +3,41 @@
 #include "safety/SafetyNames.h"
 
 #include <QAction>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <QToolButton>
 
 namespace Zavo {
 
 NoticeBar::NoticeBar(QAction *copiesAction, QWidget *parent)
     : QToolBar(tr("Notice"), parent)
-    , m_label(new QLabel(this))
+    , m_label(new QLabel)
 {
     setObjectName(QLatin1String(SafetyNames::noticeBar));
     setMovable(false);
-    setToolButtonStyle(Qt::ToolButtonTextOnly);
     // It comes and goes by itself, not by the list of bars.
     toggleViewAction()->setVisible(false);
     m_label->setObjectName(QLatin1String(SafetyNames::noticeLabel));
     m_label->setTextFormat(Qt::PlainText);
-    m_label->setWordWrap(true);
-    m_label->setMargin(style()->pixelMetric(QStyle::PM_ButtonMargin));
-    m_label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    addWidget(m_label);
-    addAction(copiesAction);
+    // A long text must not make the window wider; the tool tip has all of it.
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *const closeAction = new QAction(tr("Close"), this);
     closeAction->setObjectName(QLatin1String(SafetyNames::noticeCloseAction));
     connect(closeAction, SIGNAL(triggered()), this, SLOT(clear()));
-    addAction(closeAction);
+    auto *const content = new QWidget;
+    content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto *const line = new QHBoxLayout(content);
+    line->addWidget(m_label, 1);
+    for (QAction *action : {copiesAction, closeAction}) {
+        auto *const button = new QToolButton;
+        button->setDefaultAction(action);
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        button->setAutoRaise(true);
+        line->addWidget(button);
+    }
+    line->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
+    addWidget(content);
     hide();
 }
 
@@ -43,6 +53,7 @@ void NoticeBar::tell(const QString &text)
     lines.removeAll(text);
     lines.append(text);
     m_label->setText(lines.mid(qMax(0, lines.size() - maximumLines)).join(QLatin1Char('\n')));
+    m_label->setToolTip(m_label->text());
     show();
 }
 

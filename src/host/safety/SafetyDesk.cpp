@@ -89,11 +89,12 @@ void SafetyDesk::showCopies()
 
 void SafetyDesk::onChangedByOthers(const QStringList &fileNames)
 {
-    for (const QString &fileName : fileNames) {
-        m_notices->tell(tr("Another program changed the channel file \"%1\". It is shown here as "
-                           "it was before; a copy of the change is kept.")
-                            .arg(fileName));
-    }
+    constexpr int maximumNames = 3;
+    QString names = fileNames.mid(0, maximumNames).join(QStringLiteral(", "));
+    if (fileNames.size() > maximumNames)
+        names = tr("%1 and %2 more").arg(names).arg(fileNames.size() - maximumNames);
+    m_notices->tell(
+        tr("Another program changed %1. It is shown here as it was before.").arg(names));
 }
 
 void SafetyDesk::onCopiesFailed(const QString &reason)
@@ -103,7 +104,7 @@ void SafetyDesk::onCopiesFailed(const QString &reason)
 
 void SafetyDesk::addAction()
 {
-    m_copiesAction = new QAction(tr("Safety &Copies..."), this);
+    m_copiesAction = new QAction(tr("Safety &Copies..."), m_window);
     m_copiesAction->setObjectName(QLatin1String(SafetyNames::copiesAction));
     m_copiesAction->setStatusTip(tr("Shows earlier states of the channels and restores one."));
     connect(m_copiesAction, SIGNAL(triggered()), this, SLOT(showCopies()));
