@@ -25,14 +25,14 @@ constexpr char Filler[] = "/.filler";
 bool hasOwnMounts()
 {
     static const bool has =
-        unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+        unshare(CLONE_NEWNS) == 0 && mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0;
     return has;
 }
 
 bool mountOnItself(const QByteArray &path)
 {
     return hasOwnMounts() &&
-           mount(path.constData(), path.constData(), nullptr, MS_BIND, nullptr) == 0;
+           mount(path.constData(), path.constData(), "none", MS_BIND, nullptr) == 0;
 }
 
 void unmount(const QByteArray &path)
@@ -88,7 +88,7 @@ bool ReadOnlyFolder::mountReadOnly()
     if (!mountOnItself(m_path))
         return false;
     constexpr unsigned long readOnly = MS_BIND | MS_REMOUNT | MS_RDONLY;
-    if (mount("none", m_path.constData(), nullptr, readOnly, nullptr) == 0)
+    if (mount("none", m_path.constData(), "none", readOnly, nullptr) == 0)
         return true;
     unmount(m_path);
     return false;
