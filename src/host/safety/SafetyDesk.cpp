@@ -24,7 +24,7 @@
 namespace Zavo {
 
 namespace {
-constexpr int basicChannelId = 0;
+constexpr int idOfBasicChannel = 0;
 const QLatin1String basicChannelFile("channel.xml");
 } // namespace
 
@@ -37,9 +37,9 @@ SafetyDesk::SafetyDesk(const QString &dataDir, SafetyNet *net, HostWindow *windo
     m_notices = new NoticeBar(m_copiesAction, window);
     window->addToolBar(Qt::TopToolBarArea, m_notices);
     m_notices->hide();
-    auto *const unsaved = new UnsavedEdits(window, window->editor(), this);
+    m_unsaved = new UnsavedEdits(window, window->editor(), this);
     // clang-format off
-    connect(unsaved, SIGNAL(changed(QStringList)), net, SLOT(recordUnsaved(QStringList)));
+    connect(m_unsaved, SIGNAL(changed(QStringList)), net, SLOT(recordUnsaved(QStringList)));
     connect(net, SIGNAL(changedByOthers(QStringList)), this, SLOT(onChangedByOthers(QStringList)));
     connect(net, SIGNAL(copiesFailed(QString)), this, SLOT(onCopiesFailed(QString)));
     // clang-format on
@@ -61,7 +61,7 @@ bool SafetyDesk::restore(const QString &dataDir, const BackupState &state)
         return false;
     // The copy of the basic channel goes before its file at the next start.
     const QString basicFile = Path::combine(folder, basicChannelFile);
-    return channel.id() != basicChannelId || state.fileName == basicChannelFile ||
+    return channel.id() != idOfBasicChannel || state.fileName == basicChannelFile ||
            !QFileInfo::exists(basicFile) || DurableFile::write(basicFile, bytes);
 }
 

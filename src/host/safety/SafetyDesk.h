@@ -8,13 +8,13 @@
 #include <optional>
 
 class QAction;
-class QMenu;
 
 namespace Zavo {
 
 class HostWindow;
 class NoticeBar;
 class SafetyNet;
+class UnsavedEdits;
 
 /// What the user sees of the safety net in the window: notices, the question before another
 /// program's state is overwritten, and the way to the copies.
@@ -55,6 +55,7 @@ private:
     HostWindow *m_window = nullptr;
     QAction *m_copiesAction = nullptr;
     NoticeBar *m_notices = nullptr;
+    UnsavedEdits *m_unsaved = nullptr;
     std::optional<BackupState> m_wantedState;
 };
 
