@@ -88,28 +88,39 @@ void arrange(const DockHost &host, const QByteArray &way)
 void tst_DockLayout::restart_data()
 {
     QTest::addColumn<QByteArray>("way");
+    QTest::addColumn<double>("ratio");
     for (const char *way : {"default", "floating", "all hidden", "list in front", "list behind",
                             "other sides", "all tabs", "list beside", "floating and hidden"})
-        QTest::newRow(way) << QByteArray(way);
+        QTest::newRow(way) << QByteArray(way) << 1.0;
+    for (const char *way : {"floating", "all hidden", "all tabs"}) {
+        for (const double ratio : {1.5, 2.0})
+            QTest::addRow("%s, %.1f", way, ratio) << QByteArray(way) << ratio;
+    }
 }
 
 void tst_DockLayout::restart()
 {
     QFETCH(QByteArray, way);
+    QFETCH(double, ratio);
+    const QSize size(2000, 1000);
     DockHost host;
-    host.restart();
+    ZvSystemInfo::setDpiRatioOverride(ratio);
+    host.restart(size);
     QVERIFY(host.startSettled());
     const QString atStart = host.layoutText();
     arrange(host, way);
     const QString arranged = host.layoutText();
     QCOMPARE(arranged == atStart, way == "default");
-    host.restart();
+    host.restart(size);
     QVERIFY(host.startSettled());
     QCOMPARE(host.layoutText(), arranged);
     for (QDockWidget *dock : host.docks())
         dock->show(); // the panel stays closed by default, if it was
     host.toDefault();
     QCOMPARE(host.layoutText(), atStart);
+    QCOMPARE(host.switcher()->width(), static_cast<int>(330 * ratio));
+    QCOMPARE(host.chooser()->width(), static_cast<int>(300 * ratio));
+    QCOMPARE(host.item()->height(), 170);
 }
 
 // Sizes that were stored on a screen of another ratio would be wrong on this one.
