@@ -29,16 +29,20 @@ constexpr int mostRemovingDays = 36500;
 constexpr int explanationWidthInCharacters = 84;
 constexpr int targetListHeightInLines = 7;
 
-/// A sentence that explains the control above it.
-QLabel *createExplanation(const QString &text, QWidget *parent)
+/// A sentence that explains a control, @p indentPx from the left.
+QLabel *createExplanation(const QString &text, QWidget *parent, int indentPx = 0)
 {
     auto *const label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    // A layout in a layout does not ask how high a text is at a width.
+    label->setContentsMargins(indentPx, 0, 0, 0);
+    // A layout within layouts does not ask how high a text is at a width, so the label tells it.
     const int width = label->fontMetrics().averageCharWidth() * explanationWidthInCharacters;
     label->setMinimumWidth(width);
-    label->setMinimumHeight(label->heightForWidth(width));
+    label->setFixedHeight(label->heightForWidth(width));
+    QSizePolicy policy = label->sizePolicy();
+    policy.setHeightForWidth(false);
+    label->setSizePolicy(policy);
     return label;
 }
 
@@ -50,12 +54,10 @@ QCheckBox *addSwitch(QVBoxLayout *layout, const char *name, const QString &text,
     box->setAccessibleDescription(explanation);
     box->setStatusTip(explanation);
     layout->addWidget(box);
-    QLabel *const label = createExplanation(explanation, layout->parentWidget());
     const QStyle &style = *box->style();
-    label->setContentsMargins(style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, box) +
-                                  style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, box),
-                              0, 0, 0);
-    layout->addWidget(label);
+    const int indentPx = style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, box) +
+                         style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, box);
+    layout->addWidget(createExplanation(explanation, layout->parentWidget(), indentPx));
     return box;
 }
 } // namespace

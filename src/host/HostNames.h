@@ -21,10 +21,12 @@ constexpr char allInOneBox[] = "ConfigurationAllInOne";
 constexpr char defaultFirstBox[] = "ConfigurationDefaultScheduleUsedFirst";
 constexpr char removingDurationBox[] = "ConfigurationRemovingDuration";
 
+constexpr char channelConfigurationDialog[] = "ChannelConfigurationDialog";
+constexpr char channelTree[] = "ChannelConfigurationTree";
+
 /// The actions behind which lies something that this program does not offer.
 constexpr const char *actionsNotOffered[] = {
     "Action_Output_Channel_Data",
-    "Action_Channel_Configuration",
 };
 
 } // namespace Zavo::HostNames

@@ -7,6 +7,7 @@
 #include "VersionBox.h"
 #include "ZvEditorConfig.h"
 #include "ZvSystemInfo.h"
+#include "channels/ChannelConfigurationDialog.h"
 #include "check/CheckDialog.h"
 #include "editor/ZvScheduleEditor.h"
 #include "upload/UploadDialog.h"
@@ -86,6 +87,11 @@ void HostWindow::showConfiguration()
     ConfigurationDialog dialog(isUploading, this);
     if (dialog.exec() == QDialog::Accepted && m_uploadDialog && !isUploading)
         m_uploadDialog->reloadTargets();
+}
+
+void HostWindow::showChannelConfiguration()
+{
+    ChannelConfigurationDialog(this).exec();
 }
 
 void HostWindow::showUploadManager()
@@ -168,6 +174,8 @@ void HostWindow::connectEditor()
     connect(m_editor, SIGNAL(requestShowVersionInformation()), this,
                              SLOT(showVersionInformation()));
     connect(m_editor, SIGNAL(requestShowConfiguration()), this, SLOT(showConfiguration()));
+    connect(m_editor, SIGNAL(requestShowChannelConfiguration()), this,
+                             SLOT(showChannelConfiguration()));
     connect(m_editor, SIGNAL(requestShowUploadManager()), this, SLOT(showUploadManager()));
     connect(m_editor, SIGNAL(graphicsScenePurged(QGraphicsScene*)), m_scenePurger,
                              SLOT(purge(QGraphicsScene*)));

@@ -57,6 +57,9 @@ public Q_SLOTS:
     /// Shows the configuration of the program and waits until it is closed.
     void showConfiguration();
 
+    /// Shows the channels as they are saved and waits until that is closed.
+    void showChannelConfiguration();
+
     /// Shows the upload manager, which stays open beside the editor.
     void showUploadManager();
 

@@ -120,7 +120,7 @@ void tst_HostWindow::showsTheMenus()
 
 void tst_HostWindow::disablesWhatItDoesNotOffer()
 {
-    for (const auto *name : {"Action_Output_Channel_Data", "Action_Channel_Configuration"}) {
+    for (const auto *name : {"Action_Output_Channel_Data"}) {
         const QAction *const action = m_window->editor()->getAction(QLatin1String(name));
         QVERIFY2(action, name);
         QVERIFY2(!action->isEnabled(), name);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZvCoreExport.h"
+
 #include <QByteArray>
 #include <QList>
 
@@ -7,7 +9,7 @@ namespace Zavo {
 
 /// The text of an INI file, of which the keys of the group General are read and set while every
 /// other line stays as it is.
-class IniText
+class ZVCORE_EXPORT IniText
 {
 public:
     IniText() = default;

@@ -14,14 +14,6 @@ namespace {
 
 constexpr int longestChannelNumber = 5;
 
-QStringList channelNameFilters()
-{
-    QStringList filters;
-    for (int length = 1; length <= longestChannelNumber; ++length)
-        filters.append(QStringLiteral("channel%1.xml").arg(QString(length, QLatin1Char('?'))));
-    return filters;
-}
-
 bool looksLikeChannel(const QString &name)
 {
     return name.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive) &&
@@ -63,6 +55,14 @@ ChannelListing ChannelListing::of(const QString &channelFolder)
             listing.foreignNames.append(name);
     }
     return listing;
+}
+
+QStringList channelNameFilters()
+{
+    QStringList filters;
+    for (int length = 1; length <= longestChannelNumber; ++length)
+        filters.append(QStringLiteral("channel%1.xml").arg(QString(length, QLatin1Char('?'))));
+    return filters;
 }
 
 QString basicChannelFileName()

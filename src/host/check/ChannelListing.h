@@ -26,6 +26,9 @@ struct ChannelListing
     static ChannelListing of(const QString &channelFolder);
 };
 
+/// Patterns of the names that the editor opens as channels.
+QStringList channelNameFilters();
+
 /// Name of the basic file.
 QString basicChannelFileName();
 

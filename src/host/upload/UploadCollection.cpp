@@ -2,6 +2,7 @@
 
 #include "Path.h"
 #include "ZvChannel.h"
+#include "check/ChannelListing.h"
 #include "storage/StageFile.h"
 #include "upload/UploadNames.h"
 
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QSysInfo>
 
 #include <algorithm>
@@ -55,6 +55,7 @@ QString senderWord(const QString &dataDir)
 UploadCollection::UploadCollection(const QString &dataDir, QObject *parent)
     : QThread(parent)
     , m_dataDir(dataDir)
+    , m_settings(dataDir)
 {
     m_set.sender = senderWord(dataDir);
 }
@@ -87,14 +88,17 @@ bool UploadCollection::makeFolder()
 
 bool UploadCollection::collectChannels()
 {
-    static const QRegularExpression channelName(QStringLiteral("\\Achannel[0-9]*\\.xml\\z"));
     const QString folder = Path::combine(m_dataDir, QLatin1String(UploadNames::channelFolder));
-    QStringList names = QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    names = names.filter(channelName);
+    // What the editor opens, and the copy of the basic channel that only players open.
+    const QStringList names = QDir(folder).entryList(
+        channelNameFilters() + QStringList(basicChannelFileName()), QDir::Files, QDir::Name);
     if (names.isEmpty())
         return fail(tr("There are no channel files in \"%1\".").arg(folder));
-    return std::all_of(names.cbegin(), names.cend(),
-                       [this](const QString &name) { return collectChannel(name); });
+    for (const QString &name : names) {
+        if (!collectChannel(name))
+            return false;
+    }
+    return m_set.channelCount > 0 || fail(tr("No channel is meant to be uploaded."));
 }
 
 bool UploadCollection::collectChannel(const QString &name)
@@ -102,11 +106,13 @@ bool UploadCollection::collectChannel(const QString &name)
     const QString path = Path::combine(QLatin1String(UploadNames::channelFolder), name);
     if (!copy(Path::combine(m_dataDir, path), path))
         return false;
-    ++m_set.channelCount;
     // The copy is read, since the file may have been saved again by now.
     ZvChannel channel(m_set.folder->filePath(path));
     if (!channel.readFile())
         return fail(tr("The channel file \"%1\" is damaged.").arg(name));
+    if (!m_settings.isUploaded(channel.id()))
+        return leaveOut(path, channel.name());
+    ++m_set.channelCount;
     const QList<ZvSchedule> &schedules = channel.scheduleList();
     const auto note = [this, &channel](const QString &stage) {
         if (!stage.isEmpty() && !m_stages.contains(stage))
@@ -119,6 +125,15 @@ bool UploadCollection::collectChannel(const QString &name)
             note(band.stageName());
     }
     return true;
+}
+
+bool UploadCollection::leaveOut(const QString &path, const QString &channel)
+{
+    const QString copied = m_set.folder->filePath(path);
+    m_set.bytes -= QFileInfo(copied).size();
+    m_set.remarks.append(
+        tr("The channel \"%1\" stays here by the channel configuration.").arg(channel));
+    return QFile::remove(copied) || fail(tr("\"%1\" cannot be removed.").arg(copied));
 }
 
 bool UploadCollection::collectStages()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "channels/ChannelSettings.h"
 #include "upload/UploadSet.h"
 
 #include <QHash>
@@ -32,6 +33,7 @@ private:
     bool makeFolder();
     bool collectChannels();
     bool collectChannel(const QString &name);
+    bool leaveOut(const QString &path, const QString &channel);
     bool collectStages();
     bool collectStage(const QString &name, const QString &channel);
     bool collectPictures(const QString &stagePath);
@@ -42,6 +44,7 @@ private:
     bool fail(const QString &problem);
 
     const QString m_dataDir;
+    const ChannelSettings m_settings;
     UploadSet m_set;
     QHash<QString, QString> m_stages; // name of the stage, name of a channel that shows it
     QHash<QString, bool> m_copied;    // by path in the set

@@ -137,8 +137,7 @@ void UploadDialog::onRunFinished()
                               .arg(m_run->count(State::Cancelled))};
     const int remarkCount = m_run->remarks().size();
     if (remarkCount > 0)
-        sentences.append(tr("%n stage(s) or picture(s) were not found; the log names them.",
-                            nullptr, remarkCount));
+        sentences.append(tr("%n thing(s) to note; the log names them.", nullptr, remarkCount));
     if (!m_run->isLogWhole())
         sentences.append(tr("The log cannot be written: \"%1\".").arg(m_run->logFile()));
     m_summary->setText(sentences.join(QLatin1Char('\n')));
