@@ -6,10 +6,13 @@ set -euo pipefail
 packages=(
   g++ cmake ninja-build
   qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools libkf5archive-dev
+  libkf5calendarcore-dev
   # Does the transfers of uploads.
   rsync
   # Qt's own catalogues, and fonts that cover the scripts of the example channels.
   qttranslations5-l10n fonts-dejavu-core fonts-ipafont-gothic
+  # Read in tests what the program exported.
+  python3 poppler-utils
   # A display for the test that copies from one program to another.
   xvfb
 )

@@ -24,9 +24,4 @@ constexpr char removingDurationBox[] = "ConfigurationRemovingDuration";
 constexpr char channelConfigurationDialog[] = "ChannelConfigurationDialog";
 constexpr char channelTree[] = "ChannelConfigurationTree";
 
-/// The actions behind which lies something that this program does not offer.
-constexpr const char *actionsNotOffered[] = {
-    "Action_Output_Channel_Data",
-};
-
 } // namespace Zavo::HostNames

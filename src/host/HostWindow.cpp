@@ -10,6 +10,7 @@
 #include "channels/ChannelConfigurationDialog.h"
 #include "check/CheckDialog.h"
 #include "editor/ZvScheduleEditor.h"
+#include "exporter/ExportDialog.h"
 #include "upload/UploadDialog.h"
 
 #include <QAction>
@@ -45,7 +46,6 @@ HostWindow::HostWindow(QWidget *parent)
         menuBar()->addMenu(menu);
     // The help stays the last.
     menuBar()->insertMenu(menus.last()->menuAction(), createToolsMenu());
-    disableWhatIsNotOffered();
     connectEditor();
 }
 
@@ -110,6 +110,13 @@ void HostWindow::checkData()
     if (!m_checkDialog)
         m_checkDialog = new CheckDialog(this);
     m_checkDialog->check();
+}
+
+void HostWindow::showChannelExporter(const QString &channelFilePath)
+{
+    if (!m_exportDialog)
+        m_exportDialog = new ExportDialog(this);
+    m_exportDialog->showChannel(channelFilePath);
 }
 
 void HostWindow::closeEvent(QCloseEvent *event)
@@ -177,18 +184,12 @@ void HostWindow::connectEditor()
     connect(m_editor, SIGNAL(requestShowChannelConfiguration()), this,
                              SLOT(showChannelConfiguration()));
     connect(m_editor, SIGNAL(requestShowUploadManager()), this, SLOT(showUploadManager()));
+    connect(m_editor, SIGNAL(requestShowChannelExporter(QString)), this,
+                             SLOT(showChannelExporter(QString)));
     connect(m_editor, SIGNAL(graphicsScenePurged(QGraphicsScene*)), m_scenePurger,
                              SLOT(purge(QGraphicsScene*)));
     connect(m_editor, SIGNAL(graphicsScenePurged(QList<QGraphicsScene*>)), m_scenePurger,
                              SLOT(purge(QList<QGraphicsScene*>)));
-}
-
-void HostWindow::disableWhatIsNotOffered()
-{
-    for (const char *name : HostNames::actionsNotOffered) {
-        if (QAction *const action = m_editor->getAction(QLatin1String(name)))
-            action->setEnabled(false);
-    }
 }
 
 void HostWindow::closeEditor()

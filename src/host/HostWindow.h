@@ -7,6 +7,7 @@ class QMenu;
 namespace Zavo {
 
 class CheckDialog;
+class ExportDialog;
 class ScenePurger;
 class UploadDialog;
 class ZvScheduleEditor;
@@ -66,6 +67,9 @@ public Q_SLOTS:
     /// Checks the data folder beside the work in the window.
     void checkData();
 
+    /// Shows the exporter for the channel of that file.
+    void showChannelExporter(const QString &channelFilePath);
+
 Q_SIGNALS:
     /// The editor has finished and the window is closed; the program may end. Emitted once.
     void finished();
@@ -81,13 +85,13 @@ private:
     QMenu *createToolsMenu();
     QMenu *createHelpMenu();
     void connectEditor();
-    void disableWhatIsNotOffered();
     void closeEditor();
     bool confirmEndOfUpload();
 
     ScenePurger *m_scenePurger = nullptr;
     ZvScheduleEditor *m_editor = nullptr;
     UploadDialog *m_uploadDialog = nullptr; // null until it is first asked for
+    ExportDialog *m_exportDialog = nullptr; // the same
     CheckDialog *m_checkDialog = nullptr;   // the same
     int m_busyCount = 0;
     bool m_closing = false;
