@@ -11,6 +11,7 @@
 #include "storage/DurableFile.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
 #include <QtTest>
@@ -62,6 +63,7 @@ private Q_SLOTS:
     void leavesOtherFilesAlone();
     void knowsAFileBehindALink();
     void keepsThePermissions();
+    void looksAtManyChannels();
     void savesAndLooksAtOnce();
     void tellsTheDifference();
     void tellsOfNameAndPlace();
@@ -460,6 +462,23 @@ void tst_SafetyCopies::keepsThePermissions()
     const QString copy = m_store->states(QStringLiteral("channel0.xml")).constFirst().path;
     const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther;
     QVERIFY(!(QFile::permissions(copy) & others));
+}
+
+void tst_SafetyCopies::looksAtManyChannels()
+{
+    constexpr int count = 300;
+    for (int number = 0; number < count; ++number)
+        write("channel " + QByteArray::number(number), number);
+    QElapsedTimer timer;
+    timer.start();
+    ChannelStates states(m_folder->path(), m_store.get());
+    // The one step that is taken on the GUI thread; a loaded machine may take some of it.
+    QVERIFY2(timer.restart() < 250, "too slow to begin");
+    states.look();
+    const qint64 first = timer.restart();
+    QCOMPARE(m_store->fileNames().size(), count);
+    QVERIFY(states.look().byOthers.isEmpty());
+    QVERIFY2(timer.elapsed() < qMax<qint64>(first, 250), "a look at what has not changed is slow");
 }
 
 // Each save of the one thread is seen whole by the other, and is never taken for a stranger's.

@@ -13,6 +13,8 @@ namespace Zavo {
 
 namespace {
 const QLatin1String channelFolderName("channel");
+// The editor renews it from the file of the basic channel, by removing and copying.
+const QLatin1String copiedChannelFile("channel.xml");
 } // namespace
 
 ChannelStates::ChannelStates(const QString &dataDir, BackupStore *store)
@@ -106,7 +108,8 @@ bool ChannelStates::isToBeCopied(const QString &name, const FileStamp &stamp)
 void ChannelStates::note(const QString &name, const FileStamp &stamp, BackupStore::Result result,
                          Changes *changes)
 {
-    const bool hasNewContent = result != BackupStore::Result::Unchanged && !isCopyOfOther(name);
+    const bool hasNewContent = result != BackupStore::Result::Unchanged &&
+                               !(name == copiedChannelFile && isCopyOfOther(name));
     const QMutexLocker locker(&m_mutex);
     if (result == BackupStore::Result::Failed)
         changes->copiesFailed = true;
@@ -125,7 +128,6 @@ void ChannelStates::note(const QString &name, const FileStamp &stamp, BackupStor
         *known = {stamp, result != BackupStore::Result::Failed};
 }
 
-// The file of the basic channel is kept twice; its copy is no change of anybody else.
 bool ChannelStates::isCopyOfOther(const QString &name) const
 {
     const QString path = Path::combine(m_folder, name);
