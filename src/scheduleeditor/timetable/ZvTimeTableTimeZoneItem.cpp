@@ -262,6 +262,9 @@ void ZvTimeTableTimeZoneItem::removeAllTimeItems()
     const int countBefore = m_timeItems.count();
     {
         const BulkChange bulk(this);
+        // All is to be painted anew, so the views need not be told of each band.
+        if (scene() && countBefore != 0)
+            scene()->update();
         while (!m_timeItems.isEmpty())
             delete m_timeItems.takeLast();
     }
