@@ -10,7 +10,7 @@
 namespace Zavo {
 
 namespace {
-constexpr int killAfterMs = 3000;
+constexpr int killAfterMs = 1500;
 constexpr int mostOutputBytes = 1024 * 1024;
 constexpr int mostErrorBytes = 16 * 1024;
 constexpr int mostDetails = 20;

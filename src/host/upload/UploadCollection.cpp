@@ -18,7 +18,7 @@
 namespace Zavo {
 
 namespace {
-constexpr qint64 blockBytes = 256 * 1024;
+constexpr int blockBytes = 256 * 1024;
 constexpr int senderDigits = 12;
 
 /// The path without detours if it leads from a folder to something in it, else empty.
@@ -152,7 +152,7 @@ bool UploadCollection::collectStage(const QString &name, const QString &channel)
     const QString file = regularFileIn(folder, path);
     if (file.isEmpty()) {
         m_set.remarks.append(
-            tr("The stage \"%1\" of the channel \"%2\" is missing.").arg(name, channel));
+            tr(R"(The stage "%1" of the channel "%2" is missing.)").arg(name, channel));
         return true;
     }
     const QString place = Path::combine(QLatin1String(UploadNames::stageFolder), path);
@@ -179,7 +179,7 @@ bool UploadCollection::collectPictures(const QString &stagePath)
             QStringLiteral("%1/%2/%3").arg(QLatin1String(UploadNames::stageFolder), below, path));
         if (file.isEmpty()) {
             m_set.remarks.append(
-                tr("The picture \"%1\" of the stage \"%2\" is missing.").arg(source, stagePath));
+                tr(R"(The picture "%1" of the stage "%2" is missing.)").arg(source, stagePath));
         } else if (!m_copied.contains(place)) {
             ++m_set.pictureCount;
             if (!copy(file, place))
