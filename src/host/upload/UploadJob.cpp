@@ -218,9 +218,10 @@ QStringList UploadJob::placeArguments() const
                       QStringLiteral("--protect-args"),    everythingIn(UploadNames::stageFolder)};
     if (m_keptFolder.isEmpty())
         words.append(QStringLiteral("--link-dest=%1").arg(stagingFolder()));
-    else // A link would replace what is to be kept.
+    else // A link would replace what is to be kept; what is new there is copied from beside.
         words += QStringList{QStringLiteral("--backup"), QStringLiteral("--delay-updates"),
-                             QStringLiteral("--backup-dir=%1").arg(m_keptFolder)};
+                             QStringLiteral("--backup-dir=%1").arg(m_keptFolder),
+                             QStringLiteral("--copy-dest=%1").arg(stagingFolder())};
     if (m_step == Step::PlaceAll)
         words +=
             QStringList{QStringLiteral("--delete-delay"), everythingIn(UploadNames::channelFolder),

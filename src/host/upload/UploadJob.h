@@ -22,7 +22,7 @@ class FolderLookup;
 /// takes a moment, in which it cannot be cancelled.
 ///
 /// If the target holds channels or stages that no upload put there, these are kept in a folder
-/// beside instead of being replaced.
+/// beside instead of being replaced; where they differ, contents are then sent a second time.
 class UploadJob final : public QObject
 {
     Q_OBJECT
