@@ -108,18 +108,17 @@ void ChannelInspection::inspectDefault(const ChannelRecord &record)
 
 void ChannelInspection::inspectSchedule(const ZvSchedule &schedule, bool isUsed)
 {
-    const QString name = ScheduleNames::of(schedule);
     const BandInspection bands = BandInspection::of(schedule);
     if (!bands.overlaps.isEmpty())
-        add(CheckFinding::Kind::Overlap, name,
+        add(CheckFinding::Kind::Overlap, ScheduleNames::of(schedule),
             tr("Bands overlap: %1.").arg(listed(bands.overlaps)));
     if (!bands.emptyBands.isEmpty())
-        add(CheckFinding::Kind::EmptyBand, name,
+        add(CheckFinding::Kind::EmptyBand, ScheduleNames::of(schedule),
             tr("Bands without a stage or without duration: %1.").arg(listed(bands.emptyBands)));
     if (isUsed && !bands.gaps.isEmpty())
-        add(CheckFinding::Kind::UncoveredTime, name,
+        add(CheckFinding::Kind::UncoveredTime, ScheduleNames::of(schedule),
             tr("No stage is shown: %1.").arg(listed(bands.gaps)));
-    countStages(schedule, name);
+    countStages(schedule);
 }
 
 void ChannelInspection::inspectOldDates(const ChannelRecord &record)
@@ -143,26 +142,29 @@ void ChannelInspection::inspectOldDates(const ChannelRecord &record)
             .arg(names.join(QStringLiteral(", "))));
 }
 
-void ChannelInspection::countStages(const ZvSchedule &schedule, const QString &name)
+// Done for every band of every channel: nothing is made that is not needed.
+void ChannelInspection::countStages(const ZvSchedule &schedule)
 {
-    QSet<QString> stages;
-    if (!schedule.defaultStage().isEmpty())
-        stages.insert(schedule.defaultStage());
+    ++m_scheduleNumber;
+    const auto count = [this, &schedule](const QString &stage) {
+        if (stage.isEmpty())
+            return;
+        StageUse &use = m_result.stages[stage];
+        if (use.lastSchedule == m_scheduleNumber)
+            return;
+        use.lastSchedule = m_scheduleNumber;
+        if (use.schedules++ == 0)
+            use.firstSchedule = ScheduleNames::of(schedule);
+    };
+    count(schedule.defaultStage());
     QString last;
     const QList<ZvTime> &bands = schedule.timeList();
     for (const ZvTime &band : bands) {
         const QString stage = band.stageName();
         // Equal names of a file share their memory, so that comparing neighbours is quick.
-        if (stage == last)
-            continue;
+        if (stage != last)
+            count(stage);
         last = stage;
-        if (!stage.isEmpty())
-            stages.insert(stage);
-    }
-    for (const QString &stage : qAsConst(stages)) {
-        StageUse &use = m_result.stages[stage];
-        if (use.schedules++ == 0)
-            use.firstSchedule = name;
     }
 }
 

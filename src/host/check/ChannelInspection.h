@@ -18,6 +18,7 @@ struct StageUse
 {
     QString firstSchedule;
     int schedules = 0;
+    int lastSchedule = 0; ///< number of the one that was counted last, from 1
 };
 
 /// What one channel file holds, and what is to be said of it apart from its stages.
@@ -48,13 +49,14 @@ private:
     void inspectDefault(const ChannelRecord &record);
     void inspectSchedule(const ZvSchedule &schedule, bool isUsed);
     void inspectOldDates(const ChannelRecord &record);
-    void countStages(const ZvSchedule &schedule, const QString &name);
+    void countStages(const ZvSchedule &schedule);
     void add(CheckFinding::Kind kind, const QString &schedule, const QString &text);
     static QString listed(const QVector<TimeSpan> &spans);
 
     QString m_filePath;
     QDate m_oldDateLimit;
     InspectedChannel m_result;
+    int m_scheduleNumber = 0;
 };
 
 } // namespace Zavo
