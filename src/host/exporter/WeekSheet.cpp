@@ -24,13 +24,15 @@ constexpr double textInset = 2.0;
 constexpr double titlePoints = 13.0;
 constexpr double headPoints = 8.0;
 constexpr double slotPoints = 6.5;
+constexpr double slotLineSpacing = 1.12;
+constexpr double listLineSpacing = 1.5;
 constexpr double hairline = 0.4;
 constexpr int hoursPerDay = 24;
 constexpr int listColumns = 3;
 constexpr int longestList = 3000;
 constexpr int hues = 360;
-constexpr int paleSaturation = 70;
-constexpr int paleLightness = 222;
+constexpr int paleSaturation = 150;
+constexpr int paleLightness = 218;
 
 /// Equal stages have equal colours, on every sheet.
 QColor colorOfStage(const QString &stage)
@@ -107,6 +109,7 @@ void WeekSheet::drawWeek(QPainter *painter)
 
 void WeekSheet::drawTitle(QPainter *painter)
 {
+    painter->setPen(Qt::black);
     painter->setFont(font(titlePoints, true));
     drawLine(painter, {m_page.left(), m_page.top(), m_page.width(), titleHeight}, m_title,
              Qt::AlignLeft | Qt::AlignTop);
@@ -160,7 +163,7 @@ void WeekSheet::drawSlot(QPainter *painter, const QRectF &column, const Programm
     painter->drawRect(box);
     painter->setPen(Qt::black);
     painter->setFont(font(slotPoints, false, slot.isDefaultStage));
-    const double lineHeight = slotPoints * 1.25;
+    const double lineHeight = slotPoints * slotLineSpacing;
     if (box.height() < lineHeight) {
         if (m_shortSlots.size() < longestList)
             m_shortSlots.append(QStringLiteral("%1  %2  %3")
@@ -186,7 +189,7 @@ void WeekSheet::drawList(QPainter *painter, QPdfWriter *writer)
 {
     if (m_shortSlotsLeftOut > 0)
         m_shortSlots.append(tr("%n more", nullptr, m_shortSlotsLeftOut));
-    const double lineHeight = slotPoints * 1.5;
+    const double lineHeight = slotPoints * listLineSpacing;
     const int rows = static_cast<int>((m_page.height() - 2 * titleHeight) / lineHeight);
     const double width = m_page.width() / listColumns;
     for (int i = 0; i < m_shortSlots.size(); ++i) {
