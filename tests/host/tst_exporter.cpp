@@ -207,8 +207,17 @@ void tst_Exporter::packageLeavesOutWhatIsMissing()
              (QStringList{QStringLiteral("The stage \"a.xml\" is damaged."),
                           QStringLiteral("The stage \"sub/b.xml\" does not exist.")}));
     // What is damaged here may be read elsewhere.
-    QCOMPARE(readBack(QStringLiteral("zip"), QStringLiteral("a.zip")).object().keys(),
-             (QStringList{QStringLiteral("channel/channel3.xml"), QStringLiteral("stage/a.xml")}));
+    const QStringList names{QStringLiteral("channel/channel3.xml"), QStringLiteral("stage/a.xml")};
+    QCOMPARE(readBack(QStringLiteral("zip"), QStringLiteral("a.zip")).object().keys(), names);
+
+    m_folder->write(QStringLiteral("outside.png"), "secret");
+    m_folder->write(QStringLiteral("stage/a.xml"),
+                    "<Stage version=\"1\" width=\"100\" height=\"50\"><Picture x=\"0\" y=\"0\" "
+                    "width=\"10\" height=\"10\" source=\"../outside.png\"/></Stage>");
+    QCOMPARE(
+        run(request(ExportRequest::Package, QStringLiteral("a.zip"))).remarks.constFirst(),
+        QStringLiteral("The picture \"../outside.png\" of the stage \"a.xml\" does not exist."));
+    QCOMPARE(readBack(QStringLiteral("zip"), QStringLiteral("a.zip")).object().keys(), names);
 }
 
 void tst_Exporter::packageRefusesWaysOut_data()

@@ -112,17 +112,20 @@ bool ChannelPackage::addPictures(const QString &stagePath, KZip *zip)
         m_content.remarks.append(tr("The stage \"%1\" is damaged.").arg(stagePath));
         return true;
     }
+    return std::all_of(sources.cbegin(), sources.cend(),
+                       [&](const QString &source) { return addPicture(stagePath, source, zip); });
+}
+
+bool ChannelPackage::addPicture(const QString &stagePath, const QString &source, KZip *zip)
+{
     const QString below = QFileInfo(stagePath).path();
+    const QString path = QDir::cleanPath(Path::combine(below, source));
+    const QString file = Path::combine(m_stageFolder, path);
     const QString folder = QDir::cleanPath(Path::combine(m_stageFolder, below));
-    for (const QString &source : qAsConst(sources)) {
-        const QString path = QDir::cleanPath(Path::combine(below, source));
-        const QString file = Path::combine(m_stageFolder, path);
-        if (packedPath(path).isEmpty() || !isFileBelow(folder, file))
-            m_content.remarks.append(tr("The picture \"%1\" of the stage \"%2\" does not exist.")
-                                         .arg(source, stagePath));
-        else if (!addFile(file, path, zip))
-            return false;
-    }
+    if (!packedPath(path).isEmpty() && isFileBelow(folder, file))
+        return addFile(file, path, zip);
+    m_content.remarks.append(
+        tr(R"(The picture "%1" of the stage "%2" does not exist.)").arg(source, stagePath));
     return true;
 }
 

@@ -35,6 +35,7 @@ private:
     bool addStages(const ZvChannel &channel, KZip *zip);
     bool addStage(const QString &name, KZip *zip);
     bool addPictures(const QString &stagePath, KZip *zip);
+    bool addPicture(const QString &stagePath, const QString &source, KZip *zip);
     bool addFile(const QString &source, const QString &path, KZip *zip);
     bool addBytes(const QByteArray &bytes, const QString &path, KZip *zip);
     bool fail(const QString &problem);

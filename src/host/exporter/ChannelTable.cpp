@@ -8,7 +8,7 @@ namespace Zavo::ChannelTable {
 
 namespace {
 
-const QTime lastTableTime(23, 59, 59, 999);
+constexpr int lastTableMs = 86400 * 1000 - 1;
 
 QByteArray quoted(const QString &text)
 {
@@ -20,8 +20,9 @@ QByteArray quoted(const QString &text)
 QByteArray timeField(QTime time)
 {
     // The last millisecond stands for 24 o'clock.
-    return time == lastTableTime ? QByteArrayLiteral("24:00:00.000")
-                                 : time.toString(QStringLiteral("hh:mm:ss.zzz")).toLatin1();
+    return time.msecsSinceStartOfDay() == lastTableMs
+               ? QByteArrayLiteral("24:00:00.000")
+               : time.toString(QStringLiteral("hh:mm:ss.zzz")).toLatin1();
 }
 
 /// Kind, day and date of the schedule, with the comma behind each.

@@ -62,7 +62,7 @@ QString ExportJob::problemOf(const ExportRequest &request)
         return tr("Choose the file to write.");
     if (target.contains(QChar::Null) ||
         target.split(QLatin1Char('/')).contains(QLatin1String("..")))
-        return tr("The name \"%1\" goes out of a folder by \"..\". Write where it leads to.")
+        return tr(R"(The name "%1" goes out of a folder by "..". Write where it leads to.)")
             .arg(name);
     if (!info.isAbsolute())
         return tr("\"%1\" is no whole path of a file.").arg(name);

@@ -202,8 +202,9 @@ void WeekSheet::drawList(QPainter *painter, QPdfWriter *writer)
                      tr("Too short to be named in the week"), Qt::AlignLeft | Qt::AlignTop);
             painter->setFont(font(slotPoints));
         }
+        const int column = place / rows;
         drawLine(painter,
-                 {m_page.left() + width * (place / rows),
+                 {m_page.left() + width * column,
                   m_page.top() + 2 * titleHeight + lineHeight * (place % rows),
                   width - 2 * textInset, lineHeight},
                  m_shortSlots.at(i), Qt::AlignLeft | Qt::AlignVCenter);
