@@ -19,6 +19,30 @@ function(zavo_warning_expression result)
 endfunction()
 zavo_warning_expression(ZAVO_WARNING_EXPRESSION)
 
+# The environment of the test of that name, whose folders are made.
+function(zavo_test_environment result name)
+  set(home ${CMAKE_CURRENT_BINARY_DIR}/home/${name})
+  set(sanitizers "")
+  if(ZAVO_SANITIZE)
+    set(suppressions ${PROJECT_SOURCE_DIR}/cmake/leaks.supp)
+    set(sanitizers "LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0"
+                   "UBSAN_OPTIONS=print_stacktrace=1")
+  endif()
+  file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/zavo)
+  file(MAKE_DIRECTORY ${home}/run)
+  file(CHMOD ${home}/run DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+  set(${result}
+      QT_QPA_PLATFORM=offscreen
+      LC_ALL=C.UTF-8
+      HOME=${home}
+      XDG_CONFIG_HOME=${home}/config
+      XDG_DATA_HOME=${home}/data
+      XDG_RUNTIME_DIR=${home}/run
+      ZAVO_DATA_DIR=${home}/zavo
+      ${sanitizers}
+      PARENT_SCOPE)
+endfunction()
+
 function(zavo_add_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
   if(NOT ARG_SOURCES)
@@ -36,22 +60,11 @@ function(zavo_add_test name)
     target_precompile_headers(${name} REUSE_FROM ZavoTestSupport)
   endif()
   add_test(NAME ${name} COMMAND ${name})
-  set(home ${CMAKE_CURRENT_BINARY_DIR}/home/${name})
-  set(sanitizers "")
-  if(ZAVO_SANITIZE)
-    set(suppressions ${PROJECT_SOURCE_DIR}/cmake/leaks.supp)
-    set(sanitizers "LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0"
-                   "UBSAN_OPTIONS=print_stacktrace=1")
-  endif()
+  zavo_test_environment(environment ${name})
   set_tests_properties(
     ${name}
     PROPERTIES
       TIMEOUT ${ARG_TIMEOUT}
       FAIL_REGULAR_EXPRESSION "${ZAVO_WARNING_EXPRESSION};QSYSTEM:"
-      ENVIRONMENT
-      "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_RUNTIME_DIR=${home}/run;ZAVO_DATA_DIR=${home}/zavo;${sanitizers}"
-  )
-  file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/zavo)
-  file(MAKE_DIRECTORY ${home}/run)
-  file(CHMOD ${home}/run DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+      ENVIRONMENT "${environment}")
 endfunction()

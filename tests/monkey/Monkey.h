@@ -1,0 +1,88 @@
+#pragma once
+
+#include "MonkeyChecks.h"
+#include "MonkeyChoice.h"
+#include "MonkeyClipboard.h"
+#include "MonkeyHouse.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <cstdio>
+
+class QWidget;
+
+namespace ZavoTest {
+
+/// Uses the window at random, one event after the other, from the event loop. Whatever asks in a
+/// loop of its own is played with, and answered in the end. After every event the checks are made;
+/// the first that fails ends the run.
+class Monkey final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Every event is written to @p log, if it is not null, before it is sent.
+    Monkey(unsigned seed, int eventCount, std::FILE *log);
+
+    void start();
+
+    bool hasFailed() const { return m_hasFailed; }
+
+Q_SIGNALS:
+    void finished();
+
+private Q_SLOTS:
+    void step();
+    void answer();
+
+private:
+    void act();
+    void useMouse();
+    void drag(QWidget *target, const QPoint &from);
+    void turnWheel();
+    void useKeys();
+    void type();
+    void useTable();
+    void useTabs();
+    void triggerAction();
+    void dragStages();
+    void fillClipboard();
+    void changeSurroundings();
+    void useDialog(QWidget *dialog);
+
+    QWidget *topLevel();
+    QWidget *target(QWidget *topLevel);
+    void press(QWidget *widget, const QPoint &position, bool down);
+    void moveMouse(QWidget *widget, const QPoint &position);
+    void click(QWidget *widget, const QPoint &position);
+    QPoint tablePosition();
+    Qt::KeyboardModifiers someModifiers();
+
+    void note(const QString &what);
+    void check();
+    void fail(const QStringList &wrong);
+    void undoAndRedoAll();
+    void undoAndRedo(Zavo::ZvScheduleWorkingArea *area);
+
+    MonkeyChoice m_choice;
+    MonkeyHouse m_house;
+    MonkeyChecks m_checks;
+    MonkeyClipboard m_clipboard;
+    int m_eventsLeft;
+    int m_events = 0;
+    int m_startCount = 0;
+    int m_changeCount = 0;
+    int m_undoneCount = 0;
+    QString m_lastPlace;
+    QString m_lastTable;
+    std::FILE *m_log;
+    QPointer<QWidget> m_asked;
+    int m_playedWithAsked = 0;
+    bool m_isActing = false;
+    bool m_hasFailed = false;
+    Qt::MouseButton m_button = Qt::LeftButton;
+    Qt::KeyboardModifiers m_modifiers = Qt::NoModifier;
+};
+
+} // namespace ZavoTest
