@@ -19,8 +19,6 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QDockWidget>
-#include <QFile>
-#include <QFileDialog>
 #include <QMenu>
 #include <QTabBar>
 #include <QUndoStack>
@@ -53,6 +51,14 @@ QList<QAction *> actionsOf(const QList<QMenu *> &menus)
         }
     }
     return all;
+}
+
+// A path that is typed or chosen there may lie outside of the data folder.
+bool reachesBeyondData(const QWidget *widget)
+{
+    return widget->inherits("QFileDialog") || widget->inherits("Zavo::ExportDialog") ||
+           widget->inherits("Zavo::UploadDialog") || widget->inherits("Zavo::UploadTargetDialog") ||
+           widget->inherits("Zavo::ConfigurationDialog");
 }
 
 QString nameOf(const QWidget *widget)
@@ -178,8 +184,7 @@ void Monkey::answer()
         m_playedWithAsked = 0;
     }
     ++m_playedWithAsked;
-    // A file dialog reaches beyond the data.
-    if (m_playedWithAsked <= m_choice.below(ForcedAfter) && !qobject_cast<QFileDialog *>(asked)) {
+    if (m_playedWithAsked <= m_choice.below(ForcedAfter) && !reachesBeyondData(asked)) {
         useDialog(asked);
         return;
     }
@@ -214,14 +219,17 @@ QWidget *Monkey::topLevel()
 {
     if (QWidget *popup = QApplication::activePopupWidget())
         return popup;
-    if (QWidget *modal = QApplication::activeModalWidget())
+    QWidget *modal = QApplication::activeModalWidget();
+    if (modal && !reachesBeyondData(modal))
         return modal;
     if (m_choice.chance(70))
         return m_house.window();
     QWidgetList shown;
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget *widget : all) {
-        if (widget->isVisible() && widget->windowHandle())
+        if (widget->isVisible() && reachesBeyondData(widget))
+            widget->close();
+        else if (widget->isVisible() && widget->windowHandle())
             shown.append(widget);
     }
     return shown.isEmpty() ? m_house.window() : m_choice.from(shown);
@@ -379,6 +387,8 @@ void Monkey::useKeys()
         Qt::Key_D,         Qt::Key_S,      Qt::Key_V,        Qt::Key_X,     Qt::Key_Y,
         Qt::Key_Z,         Qt::Key_Plus,   Qt::Key_Minus,    Qt::Key_F1,    Qt::Key_1};
     QWidget *window = QApplication::activeModalWidget();
+    if (window && reachesBeyondData(window))
+        return;
     if (!window)
         window = m_choice.chance(85) ? m_house.window() : topLevel();
     if (!window || !window->windowHandle())

@@ -1,7 +1,7 @@
 #include "editor/ZvScheduleEditor.h"
 
 #include "editor/ChannelReset.h"
-#include "editor/UploadLog.h"
+#include "editor/ShownUploadLog.h"
 #include "workspace/ZvScheduleMainWidget.h"
 
 #include <QMainWindow>
@@ -70,17 +70,17 @@ void ZvScheduleEditor::action_channel_configuration()
 
 QDir ZvScheduleEditor::getUploadLogDir()
 {
-    return UploadLog::folder();
+    return ShownUploadLog::folder();
 }
 
 void ZvScheduleEditor::openUploadLogDir()
 {
-    UploadLog(m_mainWindow).openFolder();
+    ShownUploadLog(m_mainWindow).openFolder();
 }
 
 void ZvScheduleEditor::showUploadLogFile()
 {
-    UploadLog(m_mainWindow).showFile();
+    ShownUploadLog(m_mainWindow).showFile();
 }
 
 // The questions run an event loop, in which the host may go.

@@ -9,13 +9,13 @@ namespace Zavo {
 
 /// The log of uploads, which another part of the suite writes: it is found here and handed to the
 /// desktop. What fails is told in a box above the window.
-class UploadLog final
+class ShownUploadLog final
 {
-    Q_DECLARE_TR_FUNCTIONS(Zavo::UploadLog)
+    Q_DECLARE_TR_FUNCTIONS(Zavo::ShownUploadLog)
 
 public:
     /// @p window may be null.
-    explicit UploadLog(QWidget *window);
+    explicit ShownUploadLog(QWidget *window);
 
     /// The folder of the log, made if it did not exist and could be made.
     static QDir folder();

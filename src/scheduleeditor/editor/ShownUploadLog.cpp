@@ -1,4 +1,4 @@
-#include "editor/UploadLog.h"
+#include "editor/ShownUploadLog.h"
 
 #include "domain/MessageBox.h"
 
@@ -25,12 +25,12 @@ bool openOnDesktop(const QString &absolutePath)
 
 } // namespace
 
-UploadLog::UploadLog(QWidget *window)
+ShownUploadLog::ShownUploadLog(QWidget *window)
     : m_window(window)
 {
 }
 
-QDir UploadLog::folder()
+QDir ShownUploadLog::folder()
 {
     const QDir dir(
         Path::combine(Path::combine(ZvEditorConfig::dataDir(), LogFolderName), EditorFolderName));
@@ -39,7 +39,7 @@ QDir UploadLog::folder()
     return dir;
 }
 
-QString UploadLog::filePath()
+QString ShownUploadLog::filePath()
 {
     const QDir dir = folder();
     const QStringList names =
@@ -47,7 +47,7 @@ QString UploadLog::filePath()
     return names.isEmpty() ? QString() : dir.absoluteFilePath(names.first());
 }
 
-void UploadLog::openFolder() const
+void ShownUploadLog::openFolder() const
 {
     const QDir dir = folder();
     const QString title = tr("Open Log Folder");
@@ -60,7 +60,7 @@ void UploadLog::openFolder() const
     }
 }
 
-void UploadLog::showFile() const
+void ShownUploadLog::showFile() const
 {
     const QString path = filePath();
     const QString title = tr("Open Log File");
