@@ -119,11 +119,11 @@ void tst_CheckDialog::showsFindings()
     QVERIFY(m_dialog->isVisible());
     auto *const view = part<QTreeView>(CheckNames::findings);
     QCOMPARE(view->model()->rowCount(), 3);
-    QCOMPARE(cell(0, CheckFindingModel::FileColumn), QStringLiteral("channel1.xml"));
-    QCOMPARE(cell(0, CheckFindingModel::ChannelColumn), QStringLiteral("Lobby"));
+    QCOMPARE(cell(0, CheckFindingModel::FindingFile), QStringLiteral("channel1.xml"));
+    QCOMPARE(cell(0, CheckFindingModel::FindingChannel), QStringLiteral("Lobby"));
     QVERIFY(
-        cell(0, CheckFindingModel::TextColumn).startsWith(QLatin1String("There is no default")));
-    QCOMPARE(cell(2, CheckFindingModel::FileColumn), QStringLiteral("channel3.xml"));
+        cell(0, CheckFindingModel::FindingText).startsWith(QLatin1String("There is no default")));
+    QCOMPARE(cell(2, CheckFindingModel::FindingFile), QStringLiteral("channel3.xml"));
     QCOMPARE(summary(), QStringLiteral("3 finding(s) in 3 channel file(s), 0 stage(s)."));
     QVERIFY(!view->accessibleName().isEmpty());
 
@@ -235,7 +235,7 @@ void tst_CheckDialog::modelHoldsTheRules()
     model.setFindings({finding, finding});
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.columnCount(), 4);
-    const QModelIndex text = model.index(0, CheckFindingModel::TextColumn);
+    const QModelIndex text = model.index(0, CheckFindingModel::FindingText);
     QCOMPARE(text.data().toString(), finding.text);
     QCOMPARE(text.data(Qt::ToolTipRole).toString(), QStringLiteral("<p>&lt;b&gt;a&lt;/b&gt;</p>"));
     QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("File"));

@@ -151,7 +151,7 @@ void CheckDialog::makeFindings()
     m_findings->setUniformRowHeights(true);
     m_findings->setAlternatingRowColors(true);
     m_findings->setAllColumnsShowFocus(true);
-    for (int column = 0; column < CheckFindingModel::TextColumn; ++column)
+    for (int column = 0; column < CheckFindingModel::FindingText; ++column)
         m_findings->setColumnWidth(column,
                                    qRound(columnWidths[column] * ZvSystemInfo::getDpiRatio(this)));
 }

@@ -21,7 +21,7 @@ int CheckFindingModel::rowCount(const QModelIndex &parent) const
 
 int CheckFindingModel::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : ColumnCount;
+    return parent.isValid() ? 0 : FindingColumns;
 }
 
 QVariant CheckFindingModel::data(const QModelIndex &index, int role) const
@@ -30,16 +30,16 @@ QVariant CheckFindingModel::data(const QModelIndex &index, int role) const
         return {};
     const CheckFinding &finding = m_findings.at(index.row());
     // A sentence that does not fit is read in its tip; a name must not be taken for rich text.
-    if (role == Qt::ToolTipRole && index.column() == TextColumn)
+    if (role == Qt::ToolTipRole && index.column() == FindingText)
         return QStringLiteral("<p>%1</p>").arg(finding.text.toHtmlEscaped());
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {
-    case FileColumn:
+    case FindingFile:
         return finding.file;
-    case ChannelColumn:
+    case FindingChannel:
         return finding.channel;
-    case ScheduleColumn:
+    case FindingSchedule:
         return finding.schedule;
     default:
         return finding.text;
@@ -51,13 +51,13 @@ QVariant CheckFindingModel::headerData(int section, Qt::Orientation orientation,
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     switch (section) {
-    case FileColumn:
+    case FindingFile:
         return tr("File");
-    case ChannelColumn:
+    case FindingChannel:
         return tr("Channel");
-    case ScheduleColumn:
+    case FindingSchedule:
         return tr("Schedule");
-    case TextColumn:
+    case FindingText:
         return tr("Finding");
     default:
         return {};

@@ -12,7 +12,7 @@ class CheckFindingModel final : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { FileColumn, ChannelColumn, ScheduleColumn, TextColumn, ColumnCount };
+    enum Column { FindingFile, FindingChannel, FindingSchedule, FindingText, FindingColumns };
 
     explicit CheckFindingModel(QObject *parent = nullptr);
 
