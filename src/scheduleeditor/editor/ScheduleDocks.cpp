@@ -156,8 +156,8 @@ void ScheduleDocks::attach()
     showPlaced();
 }
 
-// A dock that was in no window yet comes home when it is placed. It takes its last style sheet before
-// that: each later change styles all its content anew.
+// A dock that was in no window yet comes home when it is placed. It takes its last style sheet
+// before that: each later change styles all its content anew.
 void ScheduleDocks::takeHome(QDockWidget *dock) const
 {
     if (dock->parentWidget() == m_window)
