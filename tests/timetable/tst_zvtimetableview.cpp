@@ -67,6 +67,7 @@ private Q_SLOTS:
     void keysStopAtObstacles();
     void heldKeyIsOneStep();
     void twoKeyPressesApartAreTwoSteps();
+    void keyMoveIsAStepBeforeWhatFollows();
     void pressHoldsTheStepOpen();
     void lostFocusClosesTheStep();
     void keysWithoutSelectionScroll();
@@ -258,6 +259,25 @@ void tst_ZvTimeTableView::heldKeyIsOneStep()
     QTest::qWait(2 * stepDelay);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(table.item(1)->startTime(), at("10:30:00"));
+}
+
+void tst_ZvTimeTableView::keyMoveIsAStepBeforeWhatFollows()
+{
+    TimeTableFixture table;
+    QVERIFY(table.fill(threeBands()));
+    table.select({1});
+    const QSignalSpy spy(table.view(), SIGNAL(keyReleasedWithItemMoved()));
+    QTest::keyClick(table.view(), Qt::Key_Down);
+    QCOMPARE(spy.count(), 0);
+    QTest::mouseClick(table.view()->viewport(), Qt::LeftButton);
+    QCOMPARE(spy.count(), 1);
+
+    table.select({1});
+    QTest::keyClick(table.view(), Qt::Key_Down);
+    QTest::keyClick(table.view(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(spy.count(), 2);
+    QTest::qWait(2 * stepDelay);
+    QCOMPARE(spy.count(), 2);
 }
 
 void tst_ZvTimeTableView::twoKeyPressesApartAreTwoSteps()

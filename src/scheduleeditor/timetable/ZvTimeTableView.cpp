@@ -108,6 +108,23 @@ bool ZvTimeTableView::isMovingKey(const QKeyEvent *event) const
     return timeTable && !timeTable->selectedTimeItems().isEmpty();
 }
 
+// A move by keys is reported a moment after the last of them. Whatever comes before that may change
+// the selection or the history, and the move has to be in it by then.
+bool ZvTimeTableView::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_isMovingByKey &&
+        !isMovingKey(static_cast<QKeyEvent *>(event)))
+        onMovingKeyCheckingTimerEvent();
+    return QGraphicsView::event(event);
+}
+
+void ZvTimeTableView::mousePressEvent(QMouseEvent *event)
+{
+    if (m_isMovingByKey)
+        onMovingKeyCheckingTimerEvent();
+    QGraphicsView::mousePressEvent(event);
+}
+
 void ZvTimeTableView::keyPressEvent(QKeyEvent *event)
 {
     if (!isMovingKey(event)) {
