@@ -37,7 +37,6 @@ namespace {
 constexpr int AnswerInterval = 2;  // ms
 constexpr int ForcedAfter = 6;     // events in one dialog
 constexpr int DiskCheckEvery = 20; // events
-
 QList<QAction *> actionsOf(const QList<QMenu *> &menus)
 {
     QList<QAction *> all;
@@ -201,9 +200,7 @@ void Monkey::useDialog(QWidget *dialog)
                                         Qt::Key_Space,  Qt::Key_Tab,   Qt::Key_Delete,
                                         Qt::Key_Home,   Qt::Key_Escape};
     QWindow *window = dialog->windowHandle();
-    if (!window)
-        return;
-    if (m_choice.chance(35)) {
+    if (window && m_choice.chance(35)) {
         const Qt::Key key = m_choice.from(keys);
         note(QStringLiteral("key %1 in %2").arg(key, 0, 16).arg(nameOf(dialog)));
         QTest::keyClick(window, key);
@@ -316,10 +313,8 @@ void Monkey::drag(QWidget *widget, const QPoint &from)
         place += {m_choice.between(-60, 60), m_choice.between(-120, 120)};
         moveMouse(widget, place);
     }
-    if (live && m_choice.chance(5)) {
-        note(QStringLiteral("key during the drag"));
+    if (live && m_choice.chance(5))
         useKeys();
-    }
     if (live)
         press(widget, place, false);
     else if (m_house.window())
@@ -328,8 +323,6 @@ void Monkey::drag(QWidget *widget, const QPoint &from)
 
 void Monkey::act()
 {
-    if (!m_house.window())
-        return;
     const int what = m_choice.below(100);
     if (what < 28)
         useTable();
