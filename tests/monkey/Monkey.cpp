@@ -1,5 +1,7 @@
 #include "Monkey.h"
 
+#include "KeyStroke.h"
+
 #include "HostWindow.h"
 
 #include "ZvSystemInfo.h"
@@ -203,7 +205,7 @@ void Monkey::useDialog(QWidget *dialog)
     if (window && m_choice.chance(35)) {
         const Qt::Key key = m_choice.from(keys);
         note(QStringLiteral("key %1 in %2").arg(key, 0, 16).arg(nameOf(dialog)));
-        QTest::keyClick(window, key);
+        strike(window, key);
     } else if (m_choice.chance(20)) {
         type();
     } else {
@@ -394,7 +396,7 @@ void Monkey::useKeys()
     const Qt::Key key = m_choice.from(keys);
     const Qt::KeyboardModifiers modifiers = someModifiers();
     note(QStringLiteral("key %1 with %2").arg(key, 0, 16).arg(modifiers, 0, 16));
-    QTest::keyClick(window->windowHandle(), key, modifiers);
+    strike(window->windowHandle(), key, modifiers);
 }
 
 void Monkey::type()
@@ -410,7 +412,7 @@ void Monkey::type()
             QTest::sendKeyEvent(QTest::Click, live, Qt::Key_unknown, character, Qt::NoModifier);
     }
     if (live && m_choice.chance(50))
-        QTest::keyClick(live, Qt::Key_Return);
+        strike(live, Qt::Key_Return);
 }
 
 // A place of the table: a band, the edge of one, or anywhere.
