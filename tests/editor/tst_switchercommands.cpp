@@ -212,6 +212,8 @@ void tst_SwitcherCommands::keysOfDisabledActionsDoNothing()
     QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(host.parts().calendar()->selectedDates(), QList<QDate>{betweenInfo().date()});
     QCOMPARE(host.shown(), betweenInfo());
+    // A calendar that goes while a date is typed leaks the validator of its base class.
+    QTest::keyClick(view, Qt::Key_Escape);
 }
 
 void tst_SwitcherCommands::menuOnADayMeansThatDay()

@@ -49,27 +49,27 @@ CalendarNavigationBar::CalendarNavigationBar(const QWidget *calendar)
 
 QToolButton *CalendarNavigationBar::previousMonthButton() const
 {
-    return m_previousMonthButton;
+    return qobject_cast<QToolButton *>(m_previousMonthButton);
 }
 
 QToolButton *CalendarNavigationBar::nextMonthButton() const
 {
-    return m_nextMonthButton;
+    return qobject_cast<QToolButton *>(m_nextMonthButton);
 }
 
 QToolButton *CalendarNavigationBar::monthButton() const
 {
-    return m_monthButton;
+    return qobject_cast<QToolButton *>(m_monthButton);
 }
 
 QToolButton *CalendarNavigationBar::yearButton() const
 {
-    return m_yearButton;
+    return qobject_cast<QToolButton *>(m_yearButton);
 }
 
 QToolButton *CalendarNavigationBar::menuButton() const
 {
-    return m_menuButton;
+    return qobject_cast<QToolButton *>(m_menuButton);
 }
 
 QBoxLayout *CalendarNavigationBar::layout() const
@@ -79,16 +79,18 @@ QBoxLayout *CalendarNavigationBar::layout() const
 
 void CalendarNavigationBar::addMenuButton(QMenu *menu)
 {
-    if (!layout() || !m_nextMonthButton)
+    const QToolButton *next = nextMonthButton();
+    if (!layout() || !next)
         return;
-    m_menuButton = new QToolButton(m_bar);
-    m_menuButton->setObjectName(QLatin1String(NavigationName::CalendarMenuButton));
-    m_menuButton->setMinimumWidth(barMenuButtonWidthPx);
-    m_menuButton->setIcon(QIcon(QStringLiteral(":/images/menu_simple.svg")));
-    m_menuButton->setAutoRaise(m_nextMonthButton->autoRaise());
-    m_menuButton->setMenu(menu);
-    m_menuButton->setPopupMode(QToolButton::InstantPopup);
-    layout()->insertWidget(layout()->indexOf(m_nextMonthButton), m_menuButton);
+    auto *button = new QToolButton(m_bar);
+    m_menuButton = button;
+    button->setObjectName(QLatin1String(NavigationName::CalendarMenuButton));
+    button->setMinimumWidth(barMenuButtonWidthPx);
+    button->setIcon(QIcon(QStringLiteral(":/images/menu_simple.svg")));
+    button->setAutoRaise(next->autoRaise());
+    button->setMenu(menu);
+    button->setPopupMode(QToolButton::InstantPopup);
+    layout()->insertWidget(layout()->indexOf(nextMonthButton()), button);
 }
 
 void CalendarNavigationBar::setArrows(Qt::LayoutDirection direction)
@@ -96,10 +98,10 @@ void CalendarNavigationBar::setArrows(Qt::LayoutDirection direction)
     const QIcon left(QStringLiteral(":/images/arrow_simple_left.svg"));
     const QIcon right(QStringLiteral(":/images/arrow_simple_right.svg"));
     const bool mirrored = direction == Qt::RightToLeft;
-    if (m_previousMonthButton)
-        m_previousMonthButton->setIcon(mirrored ? right : left);
-    if (m_nextMonthButton)
-        m_nextMonthButton->setIcon(mirrored ? left : right);
+    if (QToolButton *previous = previousMonthButton())
+        previous->setIcon(mirrored ? right : left);
+    if (QToolButton *next = nextMonthButton())
+        next->setIcon(mirrored ? left : right);
 }
 
 void CalendarNavigationBar::setIconRatio(double ratio)
@@ -114,21 +116,23 @@ void CalendarNavigationBar::setIconRatio(double ratio)
 void CalendarNavigationBar::placeYear(const QString &longDate, int year)
 {
     const QString name = yearName(longDate, year);
-    if (name.isEmpty() || !m_yearButton)
+    QToolButton *yearButton = this->yearButton();
+    if (name.isEmpty() || !yearButton)
         return;
-    m_yearButton->setProperty(NavigationName::YearNameProperty, name);
-    if (layout() && m_monthButton &&
-        layout()->indexOf(m_yearButton) > layout()->indexOf(m_monthButton))
-        exchangeWidgets(layout(), m_monthButton, m_yearButton);
+    yearButton->setProperty(NavigationName::YearNameProperty, name);
+    QToolButton *monthButton = this->monthButton();
+    if (layout() && monthButton && layout()->indexOf(yearButton) > layout()->indexOf(monthButton))
+        exchangeWidgets(layout(), monthButton, yearButton);
 }
 
 void CalendarNavigationBar::completeYearText()
 {
-    if (!m_yearButton)
+    QToolButton *button = yearButton();
+    if (!button)
         return;
-    const QString name = m_yearButton->property(NavigationName::YearNameProperty).toString();
-    if (!name.isEmpty() && !m_yearButton->text().endsWith(name))
-        m_yearButton->setText(m_yearButton->text() + name);
+    const QString name = button->property(NavigationName::YearNameProperty).toString();
+    if (!name.isEmpty() && !button->text().endsWith(name))
+        button->setText(button->text() + name);
 }
 
 QString CalendarNavigationBar::yearName(const QString &longDate, int year)

@@ -46,11 +46,12 @@ private:
     QBoxLayout *layout() const;
 
     QPointer<QWidget> m_bar;
-    QPointer<QToolButton> m_previousMonthButton;
-    QPointer<QToolButton> m_nextMonthButton;
-    QPointer<QToolButton> m_monthButton;
-    QPointer<QToolButton> m_yearButton;
-    QPointer<QToolButton> m_menuButton;
+    // A dying button is still told of its end, when it is a button no more: the accessors say so.
+    QPointer<QObject> m_previousMonthButton;
+    QPointer<QObject> m_nextMonthButton;
+    QPointer<QObject> m_monthButton;
+    QPointer<QObject> m_yearButton;
+    QPointer<QObject> m_menuButton;
 };
 
 } // namespace Zavo
