@@ -1,6 +1,7 @@
 #include "upload/UploadDialog.h"
 
 #include "ZvEditorConfig.h"
+#include "upload/UploadButton.h"
 #include "upload/UploadNames.h"
 #include "upload/UploadRun.h"
 #include "upload/UploadTargetList.h"
@@ -156,31 +157,19 @@ void UploadDialog::updateButtons()
 
 void UploadDialog::createRunButtons()
 {
-    m_log = createButton(UploadNames::logButton, tr("Show &Log"),
-                         tr("Open the log of the last upload"), SIGNAL(logRequested()));
-    m_upload = createButton(UploadNames::uploadButton, tr("&Upload"),
-                            tr("Upload to all targets that are checked"), SLOT(upload()));
-    m_retry =
-        createButton(UploadNames::retryButton, tr("Retry &Failed"),
-                     tr("Upload again to the targets that did not get everything"), SLOT(retry()));
-    m_cancel = createButton(UploadNames::cancelButton, tr("&Cancel Upload"),
-                            tr("Break the upload off; the targets keep what they had"),
-                            SLOT(cancelUpload()));
-    m_close = createButton(UploadNames::closeButton, tr("Close"),
-                           tr("Close this window; an upload goes on"), SLOT(reject()));
+    m_log = createUploadButton(this, UploadNames::logButton, tr("Show &Log"),
+                               tr("Open the log of the last upload"), SIGNAL(logRequested()));
+    m_upload = createUploadButton(this, UploadNames::uploadButton, tr("&Upload"),
+                                  tr("Upload to all targets that are checked"), SLOT(upload()));
+    m_retry = createUploadButton(this, UploadNames::retryButton, tr("Retry &Failed"),
+                                 tr("Upload again to the targets that did not get everything"),
+                                 SLOT(retry()));
+    m_cancel = createUploadButton(this, UploadNames::cancelButton, tr("&Cancel Upload"),
+                                  tr("Break the upload off; the targets keep what they had"),
+                                  SLOT(cancelUpload()));
+    m_close = createUploadButton(this, UploadNames::closeButton, tr("Close"),
+                                 tr("Close this window; an upload goes on"), SLOT(reject()));
     m_upload->setDefault(true);
-}
-
-QPushButton *UploadDialog::createButton(const char *name, const QString &text,
-                                        const QString &toolTip, const char *slot)
-{
-    auto *const button = new QPushButton(text, this);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(toolTip);
-    button->setStatusTip(toolTip);
-    button->setAutoDefault(false);
-    connect(button, SIGNAL(clicked()), this, slot);
-    return button;
 }
 
 QList<UploadTarget> UploadDialog::targetsToRetry() const

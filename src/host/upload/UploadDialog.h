@@ -48,8 +48,6 @@ private Q_SLOTS:
 
 private:
     void createRunButtons();
-    QPushButton *createButton(const char *name, const QString &text, const QString &toolTip,
-                              const char *slot);
     QList<UploadTarget> targetsToRetry() const;
     void start(const QList<UploadTarget> &targets);
     void showJob(int index);

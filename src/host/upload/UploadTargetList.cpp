@@ -1,5 +1,6 @@
 #include "upload/UploadTargetList.h"
 
+#include "upload/UploadButton.h"
 #include "upload/UploadNames.h"
 #include "upload/UploadTargetDialog.h"
 
@@ -123,30 +124,19 @@ void UploadTargetList::createTree(const QStringList &moreColumns)
 
 QVBoxLayout *UploadTargetList::createButtons()
 {
-    m_add = createButton(UploadNames::addButton, tr("&Add..."), tr("Enter a new target"),
-                         SLOT(addTarget()));
-    m_change = createButton(UploadNames::changeButton, tr("C&hange..."),
-                            tr("Change the address of the chosen target"), SLOT(changeTarget()));
-    m_remove = createButton(UploadNames::removeButton, tr("&Remove"),
-                            tr("Take the chosen target from the list; what lies there stays"),
-                            SLOT(removeTarget()));
+    m_add = createUploadButton(this, UploadNames::addButton, tr("&Add..."),
+                               tr("Enter a new target"), SLOT(addTarget()));
+    m_change =
+        createUploadButton(this, UploadNames::changeButton, tr("C&hange..."),
+                           tr("Change the address of the chosen target"), SLOT(changeTarget()));
+    m_remove = createUploadButton(this, UploadNames::removeButton, tr("&Remove"),
+                                  tr("Take the chosen target from the list; what lies there stays"),
+                                  SLOT(removeTarget()));
     auto *const layout = new QVBoxLayout;
     for (QPushButton *button : {m_add, m_change, m_remove})
         layout->addWidget(button);
     layout->addStretch();
     return layout;
-}
-
-QPushButton *UploadTargetList::createButton(const char *name, const QString &text,
-                                            const QString &toolTip, const char *slot)
-{
-    auto *const button = new QPushButton(text, this);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(toolTip);
-    button->setStatusTip(toolTip);
-    button->setAutoDefault(false);
-    connect(button, SIGNAL(clicked()), this, slot);
-    return button;
 }
 
 QTreeWidgetItem *UploadTargetList::addItem(const ListedTarget &listed)

@@ -54,8 +54,6 @@ private Q_SLOTS:
 private:
     void createTree(const QStringList &moreColumns);
     QVBoxLayout *createButtons();
-    QPushButton *createButton(const char *name, const QString &text, const QString &toolTip,
-                              const char *slot);
     QTreeWidgetItem *addItem(const ListedTarget &listed);
     void editTarget(QTreeWidgetItem *item);
     void replaceTarget(QTreeWidgetItem *item, const UploadTarget &target);
