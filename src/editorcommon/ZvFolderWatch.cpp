@@ -1,8 +1,13 @@
 #include "ZvFolderWatch.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <utility>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace Zavo {
 
@@ -103,8 +108,18 @@ ZvFolderWatch::Mark ZvFolderWatch::markOf(const QString &folder)
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isReadable())
         return {};
-    return {true, info.fileTime(QFileDevice::FileBirthTime),
-            info.fileTime(QFileDevice::FileMetadataChangeTime)};
+    Mark mark;
+    mark.isReadable = true;
+#ifdef Q_OS_UNIX
+    struct stat status = {};
+    if (::stat(QFile::encodeName(folder).constData(), &status) == 0) {
+        mark.device = status.st_dev;
+        mark.number = status.st_ino;
+    }
+#endif
+    mark.born = info.fileTime(QFileDevice::FileBirthTime);
+    mark.changed = info.fileTime(QFileDevice::FileMetadataChangeTime);
+    return mark;
 }
 
 void ZvFolderWatch::watch(Marks &marks, const QString &folder)

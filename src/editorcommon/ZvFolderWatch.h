@@ -45,16 +45,20 @@ private Q_SLOTS:
     void report();
 
 private:
-    /// What tells a folder from another one that took its place.
+    /// What tells a folder from another one that took its place. Times alone do not: the clock of a
+    /// file system stands still for milliseconds, in which both may have been made.
     struct Mark
     {
         bool isReadable = false;
+        quint64 device = 0;
+        quint64 number = 0;
         QDateTime born;
         QDateTime changed;
 
         bool operator==(const Mark &other) const
         {
-            return isReadable == other.isReadable && born == other.born && changed == other.changed;
+            return isReadable == other.isReadable && device == other.device &&
+                   number == other.number && born == other.born && changed == other.changed;
         }
     };
 
