@@ -8,8 +8,8 @@ class QLocale;
 
 namespace Zavo {
 
-/// The translations of the texts on the screen: Qt's own and ours. They are in force while the
-/// object lives.
+/// The translations of the texts on the screen: ours, and Qt's own in the same language. They are
+/// in force while the object lives.
 class Catalogues final : public QObject
 {
     Q_OBJECT
@@ -21,13 +21,18 @@ public:
     /// Where our catalogues lie: beside the program, and where an installation puts them.
     static QStringList standardFolders();
 
-    /// Loads what there is for @p language ("de", "pt_BR"); empty stands for the system's own.
-    /// False if it is the name of no language. Without a catalogue the texts stay English.
+    /// The languages that @p folders have catalogues for, "de" or "pt_BR", sorted.
+    static QStringList languages(const QStringList &folders);
+
+    /// Loads what there is for @p language ("de", "pt_BR"); empty stands for the system's
+    /// languages, of which the first with a catalogue of ours is taken. False if it is the name of
+    /// no language. Without a catalogue all texts, Qt's too, stay English.
     bool load(const QString &language);
 
 private:
     void loadFor(const QLocale &locale);
-    bool loadCatalogue(const QLocale &locale, const QString &name, const QString &folder);
+    /// The language of the catalogue; empty if there is none.
+    QString loadCatalogue(const QLocale &locale, const QString &name, const QString &folder);
 
     QStringList m_folders;
 };

@@ -64,11 +64,6 @@ QString CommandLine::dataDir() const
     return m_dataDir;
 }
 
-QString CommandLine::language() const
-{
-    return m_language;
-}
-
 QString CommandLine::screenshotFile() const
 {
     return m_screenshotFile;
@@ -103,6 +98,20 @@ bool CommandLine::isWithoutWindow(const QStringList &arguments)
     });
 }
 
+QString CommandLine::languageIn(const QStringList &arguments)
+{
+    const QString option = QLatin1String("--") + name(languageOption);
+    QString language;
+    for (int index = 0; index < arguments.size(); ++index) {
+        const QString &argument = arguments.at(index);
+        if (argument == option)
+            language = arguments.value(++index);
+        else if (argument.startsWith(option + QLatin1Char('=')))
+            language = argument.mid(option.size() + 1);
+    }
+    return language;
+}
+
 void CommandLine::read(const QCommandLineParser &parser)
 {
     for (const char *option : {dataDirOption, languageOption, screenshotOption}) {
@@ -121,7 +130,6 @@ void CommandLine::read(const QCommandLineParser &parser)
     if (parser.isSet(name(dataDirOption)))
         m_dataDir =
             QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(name(dataDirOption))));
-    m_language = parser.value(name(languageOption));
     m_screenshotFile = parser.value(name(screenshotOption));
     if (!m_screenshotFile.isEmpty())
         m_wish = Wish::Screenshot;

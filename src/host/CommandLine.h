@@ -32,9 +32,6 @@ public:
     /// The data folder, absolute; empty if none was given.
     QString dataDir() const;
 
-    /// The language as it was written, "de" or "pt_BR"; empty if none was given.
-    QString language() const;
-
     /// The file that the picture goes to; empty without --screenshot.
     QString screenshotFile() const;
 
@@ -52,13 +49,16 @@ public:
     /// words alone, so that it can be asked before there is an application object.
     static bool isWithoutWindow(const QStringList &arguments);
 
+    /// The language as it was written, "de" or "pt_BR"; empty if none was given. Looks at the words
+    /// alone too, since the other texts of the line are in that language.
+    static QString languageIn(const QStringList &arguments);
+
 private:
     void read(const QCommandLineParser &parser);
 
     Wish m_wish = Wish::Edit;
     bool m_asksForCheck = false;
     QString m_dataDir;
-    QString m_language;
     QString m_screenshotFile;
     QString m_helpText;
     QString m_errorText;

@@ -1,14 +1,17 @@
 #include "ConfigurationDialog.h"
 
+#include "Catalogues.h"
 #include "DataFolderCheck.h"
 #include "DataFolderChoice.h"
 #include "HostNames.h"
+#include "LanguageChoice.h"
 #include "ZvConfig.h"
 #include "ZvEditorConfig.h"
 #include "upload/UploadTargetList.h"
 #include "upload/UploadTargets.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -68,6 +71,7 @@ ConfigurationDialog::ConfigurationDialog(bool targetsAreInUse, QWidget *parent)
     setObjectName(QLatin1String(HostNames::configurationDialog));
     setWindowTitle(tr("Configuration"));
     auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(createLanguageBox());
     layout->addWidget(createFolderBox());
     layout->addWidget(createFileBox());
     layout->addWidget(createTargetBox(targetsAreInUse));
@@ -82,6 +86,7 @@ void ConfigurationDialog::accept()
 {
     if (!checkFolder() || !writeFile())
         return;
+    LanguageChoice::store(m_language->currentData().toString());
     DataFolderChoice::store(chosenFolder());
     if (m_targets->isEnabled())
         UploadTargets::store(m_targets->targets());
@@ -94,6 +99,29 @@ void ConfigurationDialog::browse()
                                                              ZvEditorConfig::dataDir());
     if (!folder.isEmpty())
         m_folder->setText(QDir::toNativeSeparators(folder));
+}
+
+QGroupBox *ConfigurationDialog::createLanguageBox()
+{
+    const QString explanation = tr("Takes effect at the next start.");
+    auto *const group = new QGroupBox(tr("Language"), this);
+    m_language = new QComboBox(group);
+    m_language->setObjectName(QLatin1String(HostNames::languageBox));
+    m_language->setAccessibleName(tr("Language"));
+    m_language->setAccessibleDescription(explanation);
+    m_language->setStatusTip(explanation);
+    m_language->addItem(tr("As in the system"), QString());
+    QStringList languages = Catalogues::languages(Catalogues::standardFolders());
+    const QString stored = LanguageChoice::stored();
+    if (!stored.isEmpty() && !languages.contains(stored))
+        languages.append(stored);
+    for (const QString &language : qAsConst(languages))
+        m_language->addItem(LanguageChoice::nameOf(language), language);
+    m_language->setCurrentIndex(m_language->findData(stored));
+    auto *const layout = new QHBoxLayout(group);
+    layout->addWidget(m_language);
+    layout->addWidget(new QLabel(explanation, group), 1);
+    return group;
 }
 
 QGroupBox *ConfigurationDialog::createFolderBox()

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 class QCheckBox;
+class QComboBox;
 class QGroupBox;
 class QLineEdit;
 class QSpinBox;
@@ -12,9 +13,9 @@ namespace Zavo {
 
 class UploadTargetList;
 
-/// Shows and changes what the program is configured by: the data folder of the user, the file
-/// "config.ini" of the data folder that is open, and the targets of uploads. Nothing is stored
-/// until the dialog is accepted, and then either all of it or, with a message, nothing.
+/// Shows and changes what the program is configured by: the language and the data folder of the
+/// user, the file "config.ini" of the data folder that is open, and the targets of uploads. Nothing
+/// is stored until the dialog is accepted, and then either all of it or, with a message, nothing.
 class ConfigurationDialog final : public QDialog
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ private Q_SLOTS:
     void browse();
 
 private:
+    QGroupBox *createLanguageBox();
     QGroupBox *createFolderBox();
     QGroupBox *createFileBox();
     QGroupBox *createTargetBox(bool targetsAreInUse);
@@ -37,6 +39,7 @@ private:
     bool writeFile();
     void complain(const QString &message);
 
+    QComboBox *m_language = nullptr;
     QLineEdit *m_folder = nullptr;
     QCheckBox *m_allInOne = nullptr;
     QCheckBox *m_defaultScheduleUsedFirst = nullptr;

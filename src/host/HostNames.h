@@ -12,10 +12,12 @@ constexpr char saveAction[] = "Action_Save_Channel";
 constexpr char saveAllAction[] = "Action_Save_All_Channel";
 constexpr char aboutAction[] = "Action_About";
 
-/// Key of the user settings.
+/// Keys of the user settings.
 constexpr char dataFolderKey[] = "data_folder";
+constexpr char languageKey[] = "language";
 
 constexpr char configurationDialog[] = "ConfigurationDialog";
+constexpr char languageBox[] = "ConfigurationLanguage";
 constexpr char dataFolderField[] = "ConfigurationDataFolder";
 constexpr char allInOneBox[] = "ConfigurationAllInOne";
 constexpr char defaultFirstBox[] = "ConfigurationDefaultScheduleUsedFirst";

@@ -1,10 +1,10 @@
 #include "Program.h"
 
-#include "Catalogues.h"
 #include "DataFolderCheck.h"
 #include "DataFolderChoice.h"
 #include "Display.h"
 #include "HostWindow.h"
+#include "LanguageChoice.h"
 #include "ScreenshotTaker.h"
 #include "ZvEditorConfig.h"
 #include "check/CheckCommand.h"
@@ -37,6 +37,9 @@ void write(FILE *stream, const QString &text)
 
 Program::Program(const QStringList &arguments, QObject *parent)
     : QObject(parent)
+    , m_catalogues(Catalogues::standardFolders())
+    , m_language(LanguageChoice::of(arguments))
+    , m_languageIsKnown(m_catalogues.load(m_language))
     , m_commandLine(arguments)
 {
 }
@@ -59,9 +62,8 @@ int Program::run()
     case CommandLine::Wish::Check:
         break;
     }
-    Catalogues catalogues(Catalogues::standardFolders());
-    if (!catalogues.load(m_commandLine.language()))
-        return fail(tr("\"%1\" is the name of no language.").arg(m_commandLine.language()));
+    if (!m_languageIsKnown)
+        return fail(tr("\"%1\" is the name of no language.").arg(m_language));
     if (m_commandLine.dataDir().isEmpty())
         DataFolderChoice::apply();
     else

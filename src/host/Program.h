@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Catalogues.h"
 #include "CommandLine.h"
 
 #include <QObject>
@@ -51,6 +52,9 @@ private:
     /// Tells the user why the program ends and returns @p exitCode.
     int fail(const QString &message, ExitCode exitCode = Failed) const;
 
+    Catalogues m_catalogues;
+    QString m_language;
+    bool m_languageIsKnown = false;
     CommandLine m_commandLine;
     std::unique_ptr<DataFolderLock> m_lock;
     std::unique_ptr<HostWindow> m_window;

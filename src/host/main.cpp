@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "Display.h"
+#include "LanguageChoice.h"
 #include "Program.h"
 
 #include <QApplication>
@@ -44,6 +45,7 @@ int main(int argc, char *argv[])
     }
     setAttributes();
     setNames();
+    Zavo::LanguageChoice::applyToDates(Zavo::LanguageChoice::of(words));
     const QApplication application(argc, argv);
     Zavo::Display::chooseFont();
     // One way out only: the editor has finished.

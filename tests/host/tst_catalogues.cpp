@@ -16,6 +16,8 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void loadsQtsOwn();
+    void speaksOneLanguage();
+    void namesLanguages();
     void loadsOurs_data();
     void loadsOurs();
     void firstFolderWins();
@@ -24,7 +26,7 @@ private Q_SLOTS:
     void standsForTheSystem();
 
 private:
-    void release(const QString &folder, const QString &text);
+    static void release(const QString &folder, const QString &language, const QString &text);
 
     QTemporaryDir m_folder;
     QTemporaryDir m_otherFolder;
@@ -41,8 +43,9 @@ QString channelInForce()
 
 void tst_Catalogues::initTestCase()
 {
-    release(m_folder.path(), QStringLiteral("Kanal"));
-    release(m_otherFolder.path(), QStringLiteral("Anderer Kanal"));
+    release(m_folder.path(), QStringLiteral("de"), QStringLiteral("Kanal"));
+    release(m_folder.path(), QStringLiteral("pt_BR"), QStringLiteral("Canal"));
+    release(m_otherFolder.path(), QStringLiteral("de"), QStringLiteral("Anderer Kanal"));
 }
 
 void tst_Catalogues::cleanup()
@@ -50,16 +53,16 @@ void tst_Catalogues::cleanup()
     QLocale::setDefault(QLocale::c());
 }
 
-void tst_Catalogues::release(const QString &folder, const QString &text)
+void tst_Catalogues::release(const QString &folder, const QString &language, const QString &text)
 {
-    const QString source = folder + QStringLiteral("/zavo_de.ts");
+    const QString source = folder + QStringLiteral("/zavo-schedule-editor_%1.ts").arg(language);
     QFile file(source);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?><!DOCTYPE TS>"
-                              "<TS version=\"2.1\" language=\"de\"><context><name>Test</name>"
+                              "<TS version=\"2.1\" language=\"%1\"><context><name>Test</name>"
                               "<message><source>Channel</source>"
-                              "<translation>%1</translation></message></context></TS>")
-                   .arg(text)
+                              "<translation>%2</translation></message></context></TS>")
+                   .arg(language, text)
                    .toUtf8());
     file.close();
     QCOMPARE(QProcess::execute(QStringLiteral(ZAVO_LRELEASE), {QStringLiteral("-silent"), source}),
@@ -68,10 +71,24 @@ void tst_Catalogues::release(const QString &folder, const QString &text)
 
 void tst_Catalogues::loadsQtsOwn()
 {
-    Catalogues catalogues({});
+    Catalogues catalogues({m_folder.path()});
     QVERIFY(catalogues.load(QStringLiteral("de")));
     QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Abbrechen"));
     QCOMPARE(QLocale().language(), QLocale::German);
+}
+
+void tst_Catalogues::speaksOneLanguage()
+{
+    Catalogues catalogues({m_otherFolder.path()});
+    QVERIFY(catalogues.load(QStringLiteral("fr")));
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
+}
+
+void tst_Catalogues::namesLanguages()
+{
+    QCOMPARE(Catalogues::languages({m_folder.path(), m_otherFolder.path()}),
+             (QStringList{QStringLiteral("de"), QStringLiteral("pt_BR")}));
+    QCOMPARE(Catalogues::languages({m_folder.filePath(QStringLiteral("none"))}), QStringList());
 }
 
 void tst_Catalogues::loadsOurs_data()
@@ -84,6 +101,8 @@ void tst_Catalogues::loadsOurs_data()
                                     << "Kanal";
     QTest::newRow("with a hyphen") << "de-CH"
                                    << "Kanal";
+    QTest::newRow("of a country") << "pt_BR"
+                                  << "Canal";
     QTest::newRow("without a catalogue") << "fr"
                                          << "Channel";
     QTest::newRow("English") << "en"

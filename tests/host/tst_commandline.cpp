@@ -28,11 +28,15 @@ Q_DECLARE_METATYPE(Zavo::CommandLine::Wish)
 
 namespace {
 
+QStringList arguments(const QString &words)
+{
+    return QStringList(QStringLiteral("zavo-schedule-editor")) +
+           words.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
 CommandLine parsed(const QString &words)
 {
-    QStringList arguments(QStringLiteral("zavo-schedule-editor"));
-    arguments += words.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    return CommandLine(arguments);
+    return CommandLine(arguments(words));
 }
 
 } // namespace
@@ -59,6 +63,7 @@ void tst_CommandLine::understands_data()
     row("--data-dir=/a/b/") << CommandLine::Wish::Edit << "/a/b" << none << none;
     row("--data-dir /a --data-dir /b") << CommandLine::Wish::Edit << "/b" << none << none;
     row("--language pt_BR") << CommandLine::Wish::Edit << none << "pt_BR" << none;
+    row("--language pt_BR --language=de") << CommandLine::Wish::Edit << none << "de" << none;
     row("--screenshot a.png --language ja") << CommandLine::Wish::Screenshot << none << "ja"
                                             << "a.png";
     row("--check") << CommandLine::Wish::Check << none << none << none;
@@ -78,7 +83,7 @@ void tst_CommandLine::understands()
     const CommandLine line = parsed(words);
     QTEST(line.wish(), "wish");
     QTEST(line.dataDir(), "dataDir");
-    QTEST(line.language(), "language");
+    QTEST(CommandLine::languageIn(arguments(words)), "language");
     QTEST(line.screenshotFile(), "screenshotFile");
     QCOMPARE(line.errorText(), QString());
 }

@@ -2,6 +2,7 @@
 #include "DataFolderChoice.h"
 #include "HostNames.h"
 #include "HostWindow.h"
+#include "LanguageChoice.h"
 #include "ZvConfig.h"
 #include "ZvEditorConfig.h"
 #include "upload/UploadNames.h"
@@ -14,6 +15,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
@@ -56,6 +58,7 @@ private Q_SLOTS:
     void explainsEveryControl();
     void opensFromTheMenu();
     void choiceYieldsToTheEnvironment();
+    void choosesALanguage();
     void passesOverAChoiceThatMakesNoSense();
 
 private:
@@ -238,8 +241,9 @@ void tst_Configuration::targetsRestDuringAnUpload()
 void tst_Configuration::explainsEveryControl()
 {
     show();
-    for (const auto *name : {HostNames::dataFolderField, HostNames::allInOneBox,
-                             HostNames::defaultFirstBox, HostNames::removingDurationBox}) {
+    for (const auto *name :
+         {HostNames::languageBox, HostNames::dataFolderField, HostNames::allInOneBox,
+          HostNames::defaultFirstBox, HostNames::removingDurationBox}) {
         const auto *const control = find<QWidget>(name);
         QVERIFY2(!control->accessibleDescription().isEmpty(), name);
         QCOMPARE(control->statusTip(), control->accessibleDescription());
@@ -286,8 +290,24 @@ void tst_Configuration::choiceYieldsToTheEnvironment()
     ZvEditorConfig::setDataDir(m_folder->path());
 }
 
+void tst_Configuration::choosesALanguage()
+{
+    show();
+    auto *box = find<QComboBox>(HostNames::languageBox);
+    QCOMPARE(box->currentText(), QStringLiteral("As in the system"));
+    m_folder->settings()->setValue(QLatin1String(HostNames::languageKey), QStringLiteral("ja"));
+    show();
+    box = find<QComboBox>(HostNames::languageBox);
+    QCOMPARE(box->currentText(), QStringLiteral("日本語"));
+    QTest::keyClick(box, Qt::Key_Home);
+    press(QDialogButtonBox::Ok);
+    QCOMPARE(Zavo::LanguageChoice::stored(), QString());
+}
+
 void tst_Configuration::passesOverAChoiceThatMakesNoSense()
 {
+    m_folder->settings()->setValue(QLatin1String(HostNames::languageKey), QStringLiteral("none"));
+    QCOMPARE(Zavo::LanguageChoice::stored(), QString());
     for (const auto *folder : {"", "zavo", "../x"}) {
         m_folder->settings()->setValue(QLatin1String(HostNames::dataFolderKey),
                                        QLatin1String(folder));

@@ -28,6 +28,9 @@ private Q_SLOTS:
     void init();
     void printsHelpAndVersion_data();
     void printsHelpAndVersion();
+    void speaksTheUsersLanguage_data();
+    void speaksTheUsersLanguage();
+    void speaksTheChosenLanguage();
     void refusesALineThatMakesNoSense_data();
     void refusesALineThatMakesNoSense();
     void writesAScreenshot_data();
@@ -104,6 +107,56 @@ void tst_Program::printsHelpAndVersion()
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(result.output.contains(printed), qPrintable(result.output));
     QCOMPARE(result.errors, QString());
+}
+
+void tst_Program::speaksTheUsersLanguage_data()
+{
+    QTest::addColumn<QString>("languages");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("printed");
+    const QString english = QStringLiteral("Opens this data folder.");
+    const QString german = QStringLiteral("Öffnet diesen Datenordner.");
+    const QString french = QStringLiteral("Ouvre ce dossier de données.");
+    QTest::newRow("of the system") << QString() << "ja_JP.UTF-8"
+                                   << "このデータフォルダーを開きます。";
+    QTest::newRow("of another country") << QString() << "de_AT.UTF-8" << german;
+    QTest::newRow("without a catalogue") << QString() << "es_ES.UTF-8" << english;
+    QTest::newRow("first that is there") << "es:fr:de"
+                                         << "de_DE.UTF-8" << french;
+    QTest::newRow("English first") << "en_GB:de"
+                                   << "de_DE.UTF-8" << english;
+}
+
+void tst_Program::speaksTheUsersLanguage()
+{
+    QFETCH(QString, languages);
+    QFETCH(QString, locale);
+    QFETCH(QString, printed);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("LC_ALL"));
+    environment.insert(QStringLiteral("LC_CTYPE"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("LANG"), locale);
+    environment.insert(QStringLiteral("LANGUAGE"), languages);
+    const Run result = run({QStringLiteral("--help")}, environment);
+    QVERIFY2(result.output.contains(printed), qPrintable(result.output));
+}
+
+void tst_Program::speaksTheChosenLanguage()
+{
+    m_folder->write(QStringLiteral("config/Zavo/ScheduleEditor.ini"), "[General]\nlanguage=fr\n");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                       m_folder->filePath(QStringLiteral("config")));
+    const QString help = QStringLiteral("--help");
+    const Run french = run({help}, environment);
+    QVERIFY2(french.output.contains(QStringLiteral("dossier")), qPrintable(french.output));
+    const Run german = run({help, QStringLiteral("--language"), QStringLiteral("de")}, environment);
+    QVERIFY2(german.output.contains(QStringLiteral("Datenordner")), qPrintable(german.output));
+    m_folder->write(QStringLiteral("config/Zavo/ScheduleEditor.ini"),
+                    "[General]\nlanguage=../nonsense\n");
+    const Run none = run({help}, environment);
+    QCOMPARE(none.exitCode, 0);
+    QVERIFY2(none.output.contains(QStringLiteral("Opens this")), qPrintable(none.output));
 }
 
 void tst_Program::refusesALineThatMakesNoSense_data()

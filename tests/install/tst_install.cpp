@@ -75,6 +75,9 @@ void tst_Install::putsFilesInTheirPlaces_data()
     QTest::addColumn<QString>("file");
     for (const auto *file :
          {"bin/zavo-schedule-editor", "share/applications/zavo-schedule-editor.desktop",
+          "share/zavo/translations/zavo-schedule-editor_de.qm",
+          "share/zavo/translations/zavo-schedule-editor_fr.qm",
+          "share/zavo/translations/zavo-schedule-editor_ja.qm",
           "share/icons/hicolor/scalable/apps/zavo-schedule-editor.svg",
           "include/zavo/editor/ZvScheduleEditor.h", "include/zavo/ZvChannel.h",
           "include/zavo/ZvEditorConfig.h", "include/zavo/ZvCoreExport.h"})
@@ -143,6 +146,12 @@ void tst_Install::programRunsWhereItLies()
 {
     CMakeProject::run(prefix() + QStringLiteral("/bin/zavo-schedule-editor"),
                       {QStringLiteral("--version")});
+    QProcess program;
+    program.start(prefix() + QStringLiteral("/bin/zavo-schedule-editor"),
+                  {QStringLiteral("--language=de"), QStringLiteral("--help")});
+    QVERIFY(program.waitForFinished());
+    const QString help = QString::fromUtf8(program.readAllStandardOutput());
+    QVERIFY2(help.contains(QStringLiteral("Datenordner")), qPrintable(help));
 }
 
 QTEST_GUILESS_MAIN(tst_Install)
