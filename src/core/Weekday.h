@@ -8,7 +8,7 @@ namespace Zavo {
 /// enumerations may be cast into each other.
 class Weekday
 {
-public:
+public: /// The days in the order of the week, and one that stands for none.
     enum Days : int {
         Monday = 1,
         Tuesday = 2,

@@ -21,12 +21,12 @@ public:
     /// An empty channel of id 0 and index 0, bound to the file, which is not touched.
     explicit ZvChannel(const QString &filePath);
 
-    QString filePath() const { return m_filePath; }
+    QString filePath() const { return m_filePath; } ///< what readFile() and writeToFile() use
 
     /// Number that stays with the channel for good.
     int id() const { return m_id; }
 
-    QString name() const { return m_name; }
+    QString name() const { return m_name; } ///< what people call it, not unique
 
     /// Place among the channels, from 0.
     int index() const { return m_index; }
@@ -44,10 +44,10 @@ public:
     /// leave out the index and the name.
     bool isMatch(const ZvChannel &other, bool ignoreIndex, bool ignoreName) const;
 
-    void setFilePath(const QString &filePath) { m_filePath = filePath; }
-    void setId(int id) { m_id = id; }
-    void setName(const QString &name) { m_name = name; }
-    void setIndex(int index) { m_index = index; }
+    void setFilePath(const QString &filePath) { m_filePath = filePath; } ///< touches no file
+    void setId(int id) { m_id = id; }                    ///< one that no other channel has
+    void setName(const QString &name) { m_name = name; } ///< any text
+    void setIndex(int index) { m_index = index; }        ///< from 0
 
     /// Stores the schedule in its place, over the one of the same key if there is one, and returns
     /// its index. -1 if it names no day: no type, a date that is none, a day outside the week.

@@ -10,12 +10,14 @@ namespace Zavo {
 class ZVCORE_EXPORT ZvConfig
 {
 public:
+    /// The removingDuration() of a file that names none.
     static constexpr int DefaultRemovingDurationDays = 365;
 
     /// Reads the file. What is missing in it, or the file itself, gives the default; a value that
     /// makes no sense gives the default and a warning on the debug stream.
     explicit ZvConfig(const QString &filePath);
 
+    /// The file, which need not exist.
     QString filePath() const { return m_filePath; }
 
     /// True if player and editor share one machine, so that there is nothing to upload.
@@ -27,8 +29,11 @@ public:
     /// Age in days, 0 or more, beyond which the schedule of a date is removed.
     int removingDuration() const { return m_removingDurationDays; }
 
+    /// @{
+    /// Changes the value here; write() brings it into the file.
     void setAllInOne(bool allInOne) { m_allInOne = allInOne; }
     void setDefaultScheduleUsedFirst(bool usedFirst) { m_defaultScheduleUsedFirst = usedFirst; }
+    /// @}
 
     /// A negative duration counts as 0.
     void setRemovingDuration(int days) { m_removingDurationDays = qMax(0, days); }

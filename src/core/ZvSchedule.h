@@ -17,7 +17,7 @@ namespace Zavo {
 /// An empty schedule stands for one that does not exist.
 class ZVCORE_EXPORT ZvSchedule
 {
-public:
+public: /// For which days a schedule stands.
     enum ScheduleTypes : int {
         NoType = 0,
         Default = 1,   ///< for the days that have no other schedule
@@ -28,9 +28,9 @@ public:
     /// Type 0, no date, no day, no content.
     ZvSchedule() = default;
 
-    ScheduleTypes type() const { return m_type; }
-    Weekday::Days dayOfWeek() const { return m_dayOfWeek; }
-    QDate date() const { return m_date; }
+    ScheduleTypes type() const { return m_type; }           ///< the first part of the key
+    Weekday::Days dayOfWeek() const { return m_dayOfWeek; } ///< counts for the type DayOfWeek
+    QDate date() const { return m_date; }                   ///< counts for the type Date
 
     /// Name of the stage that fills the gaps between the bands; empty for none.
     QString defaultStage() const { return m_defaultStage; }
@@ -47,16 +47,16 @@ public:
     /// same day or date.
     bool hasSameKey(const ZvSchedule &other) const;
 
-    void setType(ScheduleTypes type) { m_type = type; }
-    void setDayOfWeek(Weekday::Days day) { m_dayOfWeek = day; }
-    void setDate(const QDate &date) { m_date = date; }
-    void setDefaultStage(const QString &name) { m_defaultStage = name; }
-    void setTimeList(const QList<ZvTime> &timeList) { m_timeList = timeList; }
-
+    void setType(ScheduleTypes type) { m_type = type; }                        ///< changes the key
+    void setDayOfWeek(Weekday::Days day) { m_dayOfWeek = day; }                ///< changes the key
+    void setDate(const QDate &date) { m_date = date; }                         ///< changes the key
+    void setDefaultStage(const QString &name) { m_defaultStage = name; }       ///< empty for none
+    void setTimeList(const QList<ZvTime> &timeList) { m_timeList = timeList; } ///< sorted
+    /// @{
     /// Same key, same default stage and equal bands in the same order.
     ZVCORE_EXPORT friend bool operator==(const ZvSchedule &a, const ZvSchedule &b);
     friend bool operator!=(const ZvSchedule &a, const ZvSchedule &b) { return !(a == b); }
-
+    /// @}
 private:
     ScheduleTypes m_type = NoType;
     Weekday::Days m_dayOfWeek = Weekday::NoDay;

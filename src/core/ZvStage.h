@@ -25,11 +25,11 @@ public:
 
     /// A stage without content, bound to the file, which is not touched.
     explicit ZvStage(const QString &filePath = QString());
-    ZvStage(const ZvStage &other);
-    ZvStage &operator=(const ZvStage &other);
+    ZvStage(const ZvStage &other);            ///< shares what was read
+    ZvStage &operator=(const ZvStage &other); ///< shares what was read
     virtual ~ZvStage();
 
-    QString filePath() const;
+    QString filePath() const; ///< also if there is no such file
 
     /// True until a file has been read.
     bool isEmpty() const;
@@ -37,7 +37,7 @@ public:
     /// Width and height in stage pixels; empty as long as isEmpty().
     QSize size() const;
 
-    QColor background() const;
+    QColor background() const; ///< black if the file names none
 
     /// In the order of painting.
     QList<ZvStageItem> items() const;

@@ -15,20 +15,21 @@ namespace Zavo {
 /// pixels.
 struct ZVCORE_EXPORT ZvStageItem
 {
+    /// What can stand on a stage.
     enum Kinds : int {
         Rectangle, ///< filled with the colour
         Text,      ///< written in the colour, centred from top to bottom, wrapped at words
         Picture,   ///< scaled to the box; null if it could not be loaded
     };
 
-    Kinds kind = Rectangle;
-    QRectF box;
-    QColor color;
-    QString text;
-    int textSize = 0; ///< height of the font in stage pixels
-    bool bold = false;
+    Kinds kind = Rectangle;                  ///< says which of the other fields count
+    QRectF box;                              ///< from the top left corner of the stage
+    QColor color;                            ///< of a rectangle or a text
+    QString text;                            ///< with line breaks
+    int textSize = 0;                        ///< height of the font in stage pixels
+    bool bold = false;                       ///< of a text
     Qt::Alignment alignment = Qt::AlignLeft; ///< left, right or centred from side to side
-    QImage picture;
+    QImage picture;                          ///< null if there is none
 };
 
 } // namespace Zavo

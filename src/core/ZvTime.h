@@ -20,11 +20,11 @@ public:
 
     /// A band without times and stage.
     ZvTime() = default;
-    ZvTime(QTime start, QTime end, const QString &stageName);
+    ZvTime(QTime start, QTime end, const QString &stageName); ///< checks nothing
 
     /// The times are returned as they were set, unrounded.
     QTime startTime() const { return m_startTime; }
-    QTime endTime() const { return m_endTime; }
+    QTime endTime() const { return m_endTime; } ///< unrounded
 
     /// Path of the stage file below the stage folder.
     QString stageName() const { return m_stageName; }
@@ -32,14 +32,14 @@ public:
     /// True without a stage, without a valid start or end, or if the end is before the start.
     bool isEmpty() const;
 
-    void setStartTime(QTime time) { m_startTime = time; }
-    void setEndTime(QTime time) { m_endTime = time; }
-    void setStageName(const QString &name) { m_stageName = name; }
-
+    void setStartTime(QTime time) { m_startTime = time; }          ///< also an invalid one
+    void setEndTime(QTime time) { m_endTime = time; }              ///< 23:59:59.999 for 24 o'clock
+    void setStageName(const QString &name) { m_stageName = name; } ///< empty for none
+    /// @{
     /// Same stage, and start and end within ToleranceMs of each other.
     ZVCORE_EXPORT friend bool operator==(const ZvTime &a, const ZvTime &b);
     friend bool operator!=(const ZvTime &a, const ZvTime &b) { return !(a == b); }
-
+    /// @}
 private:
     QTime m_startTime;
     QTime m_endTime;

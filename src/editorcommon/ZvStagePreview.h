@@ -17,11 +17,13 @@ class ZVEDITORCOMMON_EXPORT ZvStagePreview : public QFrame
     Q_OBJECT
 
 public:
+    /// Shows no stage.
     explicit ZvStagePreview(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
 
     /// The stage on show, isEmpty() if there is none.
     ZvStage stage() const { return m_stage; }
 
+    /// The size of a thumbnail, in the pixels of the screen.
     QSize sizeHint() const override;
 
 public Q_SLOTS:
@@ -36,6 +38,7 @@ public Q_SLOTS:
     void getImage(QImage **image);
 
 protected:
+    /// Paints the stage, scaled anew only if its size changed.
     void paintEvent(QPaintEvent *event) override;
 
 private:

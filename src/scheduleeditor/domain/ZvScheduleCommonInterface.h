@@ -18,20 +18,26 @@ public:
         SelectedSelectAll = 8,
         SelectedDeselectAll = 16
     };
+    /// Any of these flags together.
     Q_DECLARE_FLAGS(SelectedType, SelectedTypeFlag)
 
     /// The commands that are possible now; no flag if there is nothing to act on.
     virtual SelectedType hasSelectedItems() const = 0;
+    /// Can be undone.
     virtual void deleteSelectedItems() = 0;
     /// Whether something was put on the clipboard; if not, the clipboard is as it was.
     virtual bool copySelectedItems() = 0;
     /// Whether something was cut.
     virtual bool cutSelectedItems() = 0;
+    /// Whether the clipboard holds something that fits here.
     virtual bool isPastingPossible() const = 0;
     /// Whether something was pasted.
     virtual bool pasteItems() = 0;
+    /// @{
+    /// Selects all that can be selected, or nothing.
     virtual void selectAllItems() = 0;
     virtual void deselectAllItems() = 0;
+    /// @}
 
 protected:
     ZvScheduleCommonInterface() = default;

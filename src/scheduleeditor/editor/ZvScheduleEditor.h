@@ -69,26 +69,34 @@ public:
     /// All menus, in the order in which the host shows them.
     QList<QMenu *> menu() const;
 
+    /// @{
     /// Enters a menu before the channel menu, and a help menu at the end, unless it is there
     /// already. The calendar menu is owned from then on; the help menu stays the host's.
     void setCalendarMenu(QMenu *menu);
     void setHelpMenu(QMenu *menu);
+    /// @}
 
+    /// @{
     /// Takes the menu out of menu(); the caller owns it. Null if there is none.
     QMenu *takeCalendarMenu();
     QMenu *takeHelpMenu();
+    /// @}
 
     /// Deletes a menu with all its actions and submenus. Nothing happens for null.
     static void deleteMenuAndAction(QMenu *menu);
 
+    /// @{
     /// The widget that the edit commands act on, or null; and the same widget as what it offers,
     /// null if it offers nothing.
     QWidget *activatedWidget() const;
     ZvScheduleCommonInterface *activatedScheudleWidget() const;
+    /// @}
 
+    /// @{
     /// What the activated widget allows; nothing if there is none.
     ZvScheduleCommonInterface::SelectedType hasSelectedItems() const;
     bool isPastingPossible() const;
+    /// @}
 
     /// The folder of the upload log, made if it did not exist and could be made.
     static QDir getUploadLogDir();
@@ -108,21 +116,31 @@ public Q_SLOTS:
     /// Asks the host to quit, which normally answers by close().
     void quit();
 
+    /// @{
+    /// Asks the host by the signal of the same name; for the exporter only if there is a channel,
+    /// for the upload manager only once it has asked about unsaved channels.
     void showVersionInformation();
     void showConfiguration();
     void showChannelConfiguration();
     void showChannelExporter();
     void showUploadManager();
+    /// @}
 
+    /// @{
     /// Open the folder of the upload log, and the log, on the desktop. Failures are told.
     void openUploadLogDir();
     void showUploadLogFile();
+    /// @}
 
+    /// The edit commands act on @p activatedWidget from now on; on nothing if it is null.
     void setActivatedWidget(QWidget *activatedWidget);
 
     /// Writes through @p activated, if it is not null, whether @p widget is the activated one.
     void isActivatedWidgetRequested(const QWidget *widget, bool *activated) const;
 
+    /// @{
+    /// Does what the menu entry of that name does, without a look at whether it is enabled. Nothing
+    /// happens where there is nothing to do it to.
     void action_save_channel();
     void action_save_all_channel();
     void action_undo();
@@ -146,6 +164,7 @@ public Q_SLOTS:
     void action_delete_channels_settings();
     void action_show_channel_information();
     void action_channel_configuration();
+    /// @}
 
     /// Brings all docks back to their default places and sizes. What is stored stays.
     void action_window_to_default_position();
@@ -153,6 +172,8 @@ public Q_SLOTS:
     /// Writes the docks of the window with their geometry to the debug log.
     void action_dock_test();
 
+    /// Brings the commands on channels, and the dock for dates, in line with @p channel. Nothing
+    /// happens for null.
     void onCurrentChannelChanged(const ZvChannel *channel);
 
 Q_SIGNALS:
@@ -161,20 +182,28 @@ Q_SIGNALS:
 
     /// The user wants to quit. Nothing has been asked or stored.
     void requestQuit();
+
+    /// @{
+    /// The user wants to see that, and the host has it.
     void requestShowVersionInformation();
     void requestShowConfiguration();
+    void requestShowChannelConfiguration();
+    /// @}
 
     /// The user wants to upload, and has been asked about unsaved channels.
     void requestShowUploadManager();
-    void requestShowChannelConfiguration();
 
     /// The user wants to export the channel whose file is @p channelFilePath.
     void requestShowChannelExporter(const QString &channelFilePath);
+
+    /// For hosts that place docks of their own. The editor places its docks without asking.
     void requestRestoreDockWidgetSetting(bool useDefault = false);
 
+    /// @{
     /// Scenes whose pages are gone. The host owns them from now on and deletes them.
     void graphicsScenePurged(QGraphicsScene *scene);
     void graphicsScenePurged(const QList<QGraphicsScene *> &sceneList);
+    /// @}
 
 private Q_SLOTS:
     void onMenuEditAboutToShow();
