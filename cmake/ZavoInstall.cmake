@@ -1,5 +1,6 @@
 # What is installed and where: the three libraries with their headers and a CMake package, the
-# program with its desktop file and icon.
+# program with its manual page, its translations and what a desktop wants to know of it. Each rule
+# names the component that it belongs to, from which the packages are made.
 
 include(CMakePackageConfigHelpers)
 
@@ -9,7 +10,7 @@ set(zavo_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZavoScheduleEditor)
 # zavo_install_library(TARGET HEADER...): the headers keep their sub-folder, the generated export
 # header lies beside them.
 function(zavo_install_library target)
-  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN" ZAVO_PUBLIC_HEADERS "${ARGN}")
   install(
     TARGETS ${target}
     EXPORT ZavoScheduleEditorTargets
@@ -83,5 +84,23 @@ if(ZAVO_BUILD_HOST AND TARGET zavo-schedule-editor)
   install(
     FILES ${PROJECT_SOURCE_DIR}/resources/icons/zavo-schedule-editor.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
+    COMPONENT Program)
+  install(
+    DIRECTORY ${PROJECT_SOURCE_DIR}/resources/icons/hicolor
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons
+    COMPONENT Program)
+  set(zavo_manual_page ${CMAKE_CURRENT_BINARY_DIR}/packaging/zavo-schedule-editor.1)
+  configure_file(${PROJECT_SOURCE_DIR}/packaging/zavo-schedule-editor.1.in ${zavo_manual_page} @ONLY)
+  install(
+    FILES ${zavo_manual_page}
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT Program)
+  set(zavo_metainfo
+      ${CMAKE_CURRENT_BINARY_DIR}/packaging/org.example.zavo_schedule_editor.metainfo.xml)
+  configure_file(${PROJECT_SOURCE_DIR}/packaging/zavo-schedule-editor.metainfo.xml.in
+                 ${zavo_metainfo} @ONLY)
+  install(
+    FILES ${zavo_metainfo}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
     COMPONENT Program)
 endif()

@@ -1,3 +1,11 @@
+# The number in the names of the libraries that a program asks for. Before version 1.0 each minor
+# version may break what was built against another.
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(ZAVO_ABI_VERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+else()
+  set(ZAVO_ABI_VERSION ${PROJECT_VERSION_MAJOR})
+endif()
+
 # What all targets of the tree share: language level, warnings, sanitizers, hidden visibility.
 
 function(zavo_configure_target target)
@@ -43,6 +51,6 @@ function(zavo_configure_library target)
                      $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}>
                      $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/zavo>)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION}
-                                             SOVERSION ${PROJECT_VERSION_MAJOR})
+                                             SOVERSION ${ZAVO_ABI_VERSION})
   add_library(Zavo::${target} ALIAS ${target})
 endfunction()

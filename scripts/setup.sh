@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing. Without an argument: what building, testing and
-# running need; with "lint" also what the format and lint checks need.
+# Installs the Debian packages that are missing. Without an argument: what building and running need;
+# with "test" also what the tests need, and with "lint" what the format and lint checks need, too.
 set -euo pipefail
+group=${1:-}
 
 packages=(
   g++ cmake ninja-build
@@ -11,12 +12,18 @@ packages=(
   rsync
   # Qt's own catalogues, and fonts that cover the scripts of the example channels.
   qttranslations5-l10n fonts-dejavu-core fonts-ipafont-gothic
-  # Read in tests what the program exported.
-  python3 poppler-utils
-  # A display for the test that copies from one program to another.
-  xvfb
 )
-if [[ "${1:-}" == lint ]]; then
+if [[ "$group" == test || "$group" == lint ]]; then
+  packages+=(
+    # Read what the program exported.
+    python3 poppler-utils
+    # A display for the test that copies from one program to another.
+    xvfb
+    # Make the packages and look at them, and at what goes along with the program.
+    file dpkg-dev fakeroot lintian desktop-file-utils appstream mandoc doxygen
+  )
+fi
+if [[ "$group" == lint ]]; then
   packages+=(clang-14 clang-format-14 clang-tidy-14 clazy valgrind)
 fi
 

@@ -1,13 +1,10 @@
 #include "CMakeProject.h"
 
+#include "Command.h"
+
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QtTest>
-
-namespace {
-constexpr int longestStepMs = 240000;
-} // namespace
 
 CMakeProject::CMakeProject(const QString &folder, const QByteArray &lists, const QByteArray &source)
     : m_folder(folder)
@@ -49,11 +46,6 @@ void CMakeProject::build() const
 
 void CMakeProject::run(const QString &command, const QStringList &arguments)
 {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(command, arguments);
-    const bool ended = process.waitForFinished(longestStepMs);
-    const QByteArray output = process.readAll();
-    QVERIFY2(ended && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
-             output.constData());
+    const Command ended = Command::run(command, arguments);
+    QVERIFY2(ended.exitCode == 0, ended.output.constData());
 }
