@@ -1,3 +1,4 @@
+#include "upload/FolderLookup.h"
 #include "upload/UploadRun.h"
 
 #include "FolderFaults.h"
@@ -5,6 +6,7 @@
 #include "UploadBench.h"
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QtTest>
 
 using Zavo::UploadJob;
@@ -51,6 +53,7 @@ private Q_SLOTS:
     void cancelsBeforeItBegins();
     void placingIsNotLeftHalfDone();
     void diesInTheMiddle();
+    void hearsOfAFolderBehindItsLookup();
     void refusesItsOwnDataFolder_data();
     void refusesItsOwnDataFolder();
     void nothingIsSentWithADamagedChannel();
@@ -444,6 +447,24 @@ void tst_Upload::diesInTheMiddle()
     QTRY_VERIFY_WITH_TIMEOUT(line.isFaulty(), longestUploadMs);
     run.reset();
     QCOMPARE(filesBelow(m_daemon->folder()), before);
+}
+
+// Which of the two comes first is up to the scheduler of the system.
+void tst_Upload::hearsOfAFolderBehindItsLookup()
+{
+    QPointer<Zavo::FolderLookup> lookup(new Zavo::FolderLookup(target()));
+    QStringList heard;
+    connect(
+        lookup, &Zavo::FolderLookup::found, this,
+        [&heard](const QString &path) { heard.append(path); }, Qt::QueuedConnection);
+    lookup->start();
+    QVERIFY(lookup->wait());
+    QCoreApplication::sendPostedEvents(lookup, QEvent::MetaCall);
+    QCoreApplication::sendPostedEvents(lookup, QEvent::DeferredDelete);
+    QVERIFY(!lookup);
+    QCOMPARE(heard, QStringList());
+    QCoreApplication::processEvents();
+    QCOMPARE(heard, QStringList(QFileInfo(target()).canonicalFilePath()));
 }
 
 void tst_Upload::refusesItsOwnDataFolder_data()

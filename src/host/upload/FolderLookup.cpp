@@ -12,7 +12,7 @@ FolderLookup::FolderLookup(const QString &folder)
 
 void FolderLookup::run()
 {
-    m_canonicalPath = QFileInfo(m_folder).canonicalFilePath();
+    Q_EMIT found(QFileInfo(m_folder).canonicalFilePath());
 }
 
 } // namespace Zavo

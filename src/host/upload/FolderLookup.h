@@ -6,8 +6,8 @@
 namespace Zavo {
 
 /// Finds out where a folder lies in truth, in a thread of its own: on a share that is lost this can
-/// take minutes, which nobody can cut short. It deletes itself once it has finished, behind the
-/// receivers of that signal.
+/// take minutes, which nobody can cut short. So it belongs to nobody, and deletes itself once it
+/// has finished.
 class FolderLookup final : public QThread
 {
     Q_OBJECT
@@ -15,15 +15,16 @@ class FolderLookup final : public QThread
 public:
     explicit FolderLookup(const QString &folder);
 
-    /// Without links; empty if there is no such folder. To be called once the thread has finished.
-    QString canonicalPath() const { return m_canonicalPath; }
+Q_SIGNALS:
+    /// Where the folder lies, without links; empty if there is no such folder. Emitted once, from
+    /// the thread. By the time that a receiver in another thread hears it, this object may be gone.
+    void found(const QString &canonicalPath);
 
 protected:
     void run() override;
 
 private:
     const QString m_folder;
-    QString m_canonicalPath;
 };
 
 } // namespace Zavo

@@ -118,13 +118,12 @@ void UploadJob::onEnded()
     }
 }
 
-void UploadJob::onFolderFound()
+void UploadJob::onFolderFound(const QString &canonicalPath)
 {
-    if (m_state != State::Running || m_step != Step::Find || !m_lookup)
+    if (m_state != State::Running || m_step != Step::Find)
         return;
-    const QString folder = m_lookup->canonicalPath();
     // What does not exist is for rsync to tell.
-    if (!folder.isEmpty() && UploadTarget(folder).overlaps(m_set.origin))
+    if (!canonicalPath.isEmpty() && UploadTarget(canonicalPath).overlaps(m_set.origin))
         end(State::Failed, tr("This is where the data folder of the editor lies."));
     else
         startStep(Step::Look);
@@ -134,9 +133,10 @@ void UploadJob::findFolder()
 {
     m_step = Step::Find;
     m_message = stepMessage();
-    m_lookup = new FolderLookup(m_target.destination());
-    connect(m_lookup, SIGNAL(finished()), this, SLOT(onFolderFound()), Qt::QueuedConnection);
-    m_lookup->start();
+    auto *const lookup = new FolderLookup(m_target.destination());
+    connect(lookup, SIGNAL(found(QString)), this,
+                           SLOT(onFolderFound(QString)), Qt::QueuedConnection);
+    lookup->start();
     Q_EMIT changed();
 }
 

@@ -5,12 +5,9 @@
 #include "upload/UploadTarget.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 namespace Zavo {
-
-class FolderLookup;
 
 /// The upload of one set to one target.
 ///
@@ -68,7 +65,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void onProgressed(int percent);
     void onEnded();
-    void onFolderFound();
+    void onFolderFound(const QString &canonicalPath);
 
 private:
     enum class Step { Find, Look, Assemble, PlaceStages, PlaceAll, CleanUp };
@@ -94,7 +91,6 @@ private:
     RsyncProcess m_rsync;
     State m_state = State::Waiting;
     Step m_step = Step::Find;
-    QPointer<FolderLookup> m_lookup; // deletes itself: what waits for a lost share takes its time
     int m_percent = 0;
     QString m_message;
     QStringList m_details;
