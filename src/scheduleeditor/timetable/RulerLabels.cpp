@@ -50,6 +50,23 @@ void RulerLabels::ensure(double top, double bottom)
         makeLabel(static_cast<int>(label - m_labels.cbegin()));
 }
 
+void RulerLabels::drawWithin(const DrawnRange &range)
+{
+    if (range == m_drawnRange)
+        return;
+    m_drawnRange = range;
+    for (int i = 0; i < m_textItems.size(); ++i) {
+        if (m_textItems.at(i))
+            applyRange(i);
+    }
+}
+
+void RulerLabels::applyRange(int index)
+{
+    const double y = m_labels.at(index).pos().y();
+    setDrawn(m_textItems.at(index), m_drawnRange.meets(y, y));
+}
+
 void RulerLabels::makeMissing()
 {
     int made = 0;
@@ -91,6 +108,7 @@ void RulerLabels::place(int index)
     const double descent = QFontMetricsF(item->font()).descent();
     const double rise = item->boundingRect().height() - (descent + clearance);
     item->setPos(label.pos().x(), label.pos().y() - rise / m_labelledScale);
+    applyRange(index);
 }
 
 } // namespace Zavo

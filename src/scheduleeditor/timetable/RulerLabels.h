@@ -1,6 +1,7 @@
 #pragma once
 
 #include "domain/ZvTimeTableTimeLabelInfo.h"
+#include "timetable/DrawnRange.h"
 
 #include <QList>
 #include <QObject>
@@ -29,6 +30,8 @@ public:
     void setLabels(const QList<ZvTimeTableTimeLabelInfo> &labels, double verticalScale);
     /// Makes the labels between two y that are still missing.
     void ensure(double top, double bottom);
+    /// Draws the labels on lines in @p range and no others.
+    void drawWithin(const DrawnRange &range);
     /// Lays the labels out for a screen of another font DPI.
     void setDpiRatio(double dpiRatio);
 
@@ -39,11 +42,13 @@ private:
     void makeLabel(int index);
     void layoutAll();
     void place(int index);
+    void applyRange(int index);
 
     QGraphicsItem *m_carrier;
     QList<ZvTimeTableTimeLabelInfo> m_labels;
     double m_labelledScale = 1.0;
     double m_dpiRatio = 1.0;
+    DrawnRange m_drawnRange;
     QVector<TimeTableTextItem *> m_textItems; ///< null where one is still missing
     QTimer m_missingTimer;
 };

@@ -10,7 +10,6 @@
 #include <QStyleOptionGraphicsItem>
 #include <QTimer>
 
-#include <algorithm>
 #include <cmath>
 
 namespace Zavo {
@@ -20,15 +19,11 @@ namespace {
 constexpr double timeZoneWidth = 240.0;
 constexpr double secondLength = 0.016666666666666666; // in scene units
 constexpr int secondsPerDay = 86400;
-constexpr int relabelDelay = 10;    // ms
-constexpr double labelReach = 50.0; // px that a label may stand away from its line
-
-QPen cosmeticPen(const QColor &color, Qt::PenStyle style = Qt::SolidLine)
-{
-    QPen pen(color, 1.0, style);
-    pen.setCosmetic(true);
-    return pen;
-}
+constexpr int relabelDelay = 10;          // ms
+constexpr double labelReach = 50.0;       // px that a label may stand away from its line
+constexpr double leastScaleOfRange = 3.0; // below that most of the day is in sight
+constexpr double sightsAhead = 1.0;       // drawn on both sides of what is in sight
+constexpr double mostSightsDrawn = 8.0;
 
 } // namespace
 
@@ -85,21 +80,23 @@ void ZvTimeTableBaseItem::addTimeZone(ZvTimeTableTimeZoneItem *zone)
 }
 
 void ZvTimeTableBaseItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
-                                QWidget *)
+                                QWidget *widget)
 {
     followFontDpi(*painter);
+    followSight(option->exposedRect, widget);
     if (m_ruler.verticalScale() != m_verticalScale)
         m_ruler = TimeTableRuler(m_verticalScale);
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, false);
     fillTimeZones(painter);
-    paintRuler(painter, option->exposedRect);
+    m_lines.paint(painter, m_ruler, static_cast<int>(m_width), option->exposedRect.top(),
+                  option->exposedRect.bottom());
     painter->restore();
     Q_EMIT timeTablePosUpdated(scenePos());
     m_labels.setLabels(m_ruler.labels(), m_verticalScale);
-    m_labels.ensure(option->exposedRect.top() - labelReach / m_verticalScale,
-                    option->exposedRect.bottom() + labelReach / m_verticalScale);
+    const double reach = labelReach * m_dpiRatio / m_verticalScale;
+    m_labels.ensure(option->exposedRect.top() - reach, option->exposedRect.bottom() + reach);
 }
 
 void ZvTimeTableBaseItem::followFontDpi(const QPainter &painter)
@@ -117,20 +114,28 @@ void ZvTimeTableBaseItem::fillTimeZones(QPainter *painter) const
         painter->fillRect(zone->innerRect().translated(zone->scenePos()), Qt::white);
 }
 
-void ZvTimeTableBaseItem::paintRuler(QPainter *painter, const QRectF &exposed)
+void ZvTimeTableBaseItem::followSight(const QRectF &exposed, const QWidget *viewport)
 {
-    const QPen pens[] = {cosmeticPen(Qt::gray, Qt::DotLine), cosmeticPen(Qt::gray),
-                         cosmeticPen(Qt::blue)};
-    // Lines are drawn at the whole unit above them, so one starts up to a unit before it shows.
-    const auto &lines = m_ruler.lines();
-    auto line = std::lower_bound(
-        lines.cbegin(), lines.cend(), exposed.top() - 1.0,
-        [](const TimeTableRulerLine &candidate, double y) { return candidate.y < y; });
-    for (; line != lines.cend() && line->y <= exposed.bottom() + 1.0; ++line) {
-        painter->setPen(pens[line->kind]);
-        const int y = static_cast<int>(line->y);
-        painter->drawLine(QLine(0, y, static_cast<int>(m_width), y));
+    const auto *view =
+        viewport ? qobject_cast<const QGraphicsView *>(viewport->parentWidget()) : nullptr;
+    QRectF seen = exposed;
+    if (view)
+        seen |= mapRectFromScene(view->mapToScene(viewport->rect()).boundingRect());
+    const double reach = labelReach * m_dpiRatio / m_verticalScale;
+    const DrawnRange sight = DrawnRange{seen.top(), seen.bottom()}.grownBy(reach);
+
+    const bool isKept = m_drawnScale == m_verticalScale && m_drawnRange.contains(sight) &&
+                        (m_verticalScale < leastScaleOfRange ||
+                         m_drawnRange.length() <= mostSightsDrawn * sight.length());
+    if (!isKept) {
+        m_drawnScale = m_verticalScale;
+        m_drawnRange = m_verticalScale < leastScaleOfRange
+                           ? DrawnRange()
+                           : sight.grownBy(sight.length() * sightsAhead);
     }
+    m_labels.drawWithin(m_drawnRange);
+    for (ZvTimeTableTimeZoneItem *zone : qAsConst(m_timeZones))
+        zone->drawWithin(m_drawnRange);
 }
 
 void ZvTimeTableBaseItem::synchroniseLabels()

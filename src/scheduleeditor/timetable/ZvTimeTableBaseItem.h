@@ -1,7 +1,9 @@
 #pragma once
 
 #include "domain/ZvTimeTableTimeLabelInfo.h"
+#include "timetable/DrawnRange.h"
 #include "timetable/RulerLabels.h"
+#include "timetable/RulerLines.h"
 #include "timetable/TimeAxis.h"
 #include "timetable/TimeTableRuler.h"
 
@@ -62,7 +64,7 @@ private Q_SLOTS:
 private:
     void followFontDpi(const QPainter &painter);
     void fillTimeZones(QPainter *painter) const;
-    void paintRuler(QPainter *painter, const QRectF &exposed);
+    void followSight(const QRectF &exposed, const QWidget *viewport);
 
     double m_topMargin = TimeAxis::topMargin;
     double m_width = 420.0;
@@ -72,10 +74,13 @@ private:
     double m_verticalScale = 1.0;
     double m_horizontalScale = 1.0;
     TimeTableRuler m_ruler; // laid out by the first paint
+    RulerLines m_lines;
     ZvTimeTableTimeLabelItem *m_labelItem = nullptr;
     RulerLabels m_labels;
     QList<ZvTimeTableTimeZoneItem *> m_timeZones;
     double m_dpiRatio = 1.0;
+    DrawnRange m_drawnRange;
+    double m_drawnScale = 0.0;
 };
 
 } // namespace Zavo

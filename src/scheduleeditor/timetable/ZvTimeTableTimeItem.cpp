@@ -2,12 +2,15 @@
 
 #include "timetable/BandMemory.h"
 #include "timetable/CosmeticOutline.h"
+#include "timetable/DrawnRange.h"
 #include "timetable/TimeTableLabelPool.h"
 #include "timetable/ZvTimeTableTimeItemLabel.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
 #include <QPainter>
+
+#include <initializer_list>
 
 namespace Zavo {
 
@@ -73,6 +76,7 @@ ZvTimeTableTimeItemLabel *ZvTimeTableTimeItem::adoptLabel(ZvTimeTableTimeItemLab
                                                           const QColor &background)
 {
     label->setBackgroundColor(background);
+    Zavo::setDrawn(label, m_isDrawn);
     label->setPos(0.0, 0.0);
     label->setParentItem(this);
     return label;
@@ -119,6 +123,7 @@ void ZvTimeTableTimeItem::setTimeInfo(const ZvTime &time)
     const double bottom = TimeAxis::isEndOfDay(time.endTime())
                               ? m_dayBottom
                               : TimeAxis::unitsOf(time.endTime()) + m_topMargin;
+    setDrawn(true);
     prepareGeometryChange();
     m_itemHeight = bottom - top;
 
@@ -136,6 +141,7 @@ void ZvTimeTableTimeItem::setItemHeight(double height)
 {
     if (height == m_itemHeight)
         return;
+    setDrawn(true);
     prepareGeometryChange();
     m_itemHeight = height;
     layoutChildren();
@@ -184,6 +190,16 @@ void ZvTimeTableTimeItem::updateTimeInfo()
     m_timeInfo.setStartTime(start);
     m_timeInfo.setEndTime(end);
     Q_EMIT timeInfoChanged(m_timeInfo);
+}
+
+void ZvTimeTableTimeItem::setDrawn(bool drawn)
+{
+    if (drawn == m_isDrawn)
+        return;
+    m_isDrawn = drawn;
+    for (QGraphicsItem *item : std::initializer_list<QGraphicsItem *>{
+             this, m_stageLabel, &m_selectionRect, &m_innerSelectionRect, m_indexLabel})
+        Zavo::setDrawn(item, drawn);
 }
 
 void ZvTimeTableTimeItem::renumber()
@@ -249,6 +265,7 @@ QVariant ZvTimeTableTimeItem::itemChange(GraphicsItemChange change, const QVaria
         return QGraphicsObject::itemChange(change, value);
     switch (change) {
     case ItemPositionChange:
+        setDrawn(true);
         if (m_positionLimited)
             return limitedPosition(value.toPointF());
         break;

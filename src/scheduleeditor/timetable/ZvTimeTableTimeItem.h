@@ -81,6 +81,9 @@ public:
     void setPositionLimited(bool limited) { m_positionLimited = limited; }
     /// While true no time is derived from the geometry.
     void setTimeUpdateBlocked(bool blocked) { m_timeUpdateBlocked = blocked; }
+    /// Whether the band is drawn, which it is at first. One that moves or changes its size is drawn
+    /// again: it may come into sight.
+    void setDrawn(bool drawn);
     /// Derives the times from the geometry, unless blocked.
     void updateTimeInfo();
 
@@ -135,6 +138,7 @@ private:
     bool m_positionLimited = true;
     QColor m_markColor = Qt::blue;
     bool m_timeUpdateBlocked = false;
+    bool m_isDrawn = true;
     // The children, in the order in which they are stacked. What every band has of its own is part
     // of it: thousands of bands come and go at once, and the scene takes out items that are close
     // together in memory at less cost.

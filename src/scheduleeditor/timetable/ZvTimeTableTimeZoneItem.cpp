@@ -2,6 +2,7 @@
 
 #include "ZvEditorCommon.h"
 #include "stages/ZvScheduleStageListView.h"
+#include "timetable/CosmeticOutline.h"
 #include "timetable/StageDropPlan.h"
 #include "timetable/TimeAxis.h"
 #include "timetable/ZvTimeTableBaseItem.h"
@@ -99,6 +100,16 @@ void ZvTimeTableTimeZoneItem::setVerticalScale(double scale)
 {
     for (ZvTimeTableTimeItem *item : m_timeItems.items())
         item->setVerticalScale(scale);
+}
+
+void ZvTimeTableTimeZoneItem::drawWithin(const DrawnRange &range)
+{
+    if (range == m_drawnRange && !m_hasNewBands)
+        return;
+    m_drawnRange = range;
+    m_hasNewBands = false;
+    for (ZvTimeTableTimeItem *item : m_timeItems.items())
+        item->setDrawn(range.meets(item->y(), item->y() + item->itemHeight()));
 }
 
 QList<ZvTimeTableTimeItem *> ZvTimeTableTimeZoneItem::timeItems() const
@@ -210,6 +221,7 @@ bool ZvTimeTableTimeZoneItem::insertTimeItem(const ZvTime &time, double vertical
         return false;
     ZvTimeTableTimeItem *item = createTimeItem(time, index, verticalScale);
     m_timeItems.insert(index, item);
+    m_hasNewBands = true;
     item->setSelected(true);
     Q_EMIT timeItemCountChanged(m_timeItems.count());
     return true;
@@ -359,12 +371,9 @@ void ZvTimeTableTimeZoneItem::dropEvent(QGraphicsSceneDragDropEvent *event)
 void ZvTimeTableTimeZoneItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
     const QRectF strip = innerRect();
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(stripPen(painter->pen().color()));
-    painter->drawRect(strip);
-    painter->setPen(stripPen(Qt::blue));
-    painter->drawLine(strip.topLeft(), strip.topRight());
-    painter->drawLine(strip.bottomLeft(), strip.bottomRight());
+    drawCosmeticOutline(painter, strip, painter->pen().color());
+    drawCosmeticOutline(painter, QRectF(strip.topLeft(), strip.topRight()), Qt::blue);
+    drawCosmeticOutline(painter, QRectF(strip.bottomLeft(), strip.bottomRight()), Qt::blue);
 }
 
 } // namespace Zavo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ZvTime.h"
+#include "timetable/DrawnRange.h"
 #include "timetable/TimeItemChain.h"
 
 #include <QGraphicsObject>
@@ -57,6 +58,8 @@ public:
     void setRect(const QRectF &rect);
     void setHorizontalScale(double scale);
     void setVerticalScale(double scale);
+    /// Draws the bands in @p range and those that are moved from now on.
+    void drawWithin(const DrawnRange &range);
 
     /// Creates a band for each record and selects it. False if one could not be placed; the others
     /// stay, and criticalErrorOccured() named each that failed.
@@ -119,6 +122,8 @@ private:
     QGraphicsLineItem *m_dropLine = nullptr;
     TimeItemChain m_timeItems;
     double m_horizontalScale = 1.0;
+    DrawnRange m_drawnRange;
+    bool m_hasNewBands = false; ///< since the range was looked at
 };
 
 } // namespace Zavo

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QScrollBar>
 
@@ -35,6 +36,9 @@ ZvTimeTableView::ZvTimeTableView(QGraphicsScene *scene, QWidget *parent)
     setMouseTracking(true);
     setDragMode(RubberBandDrag);
     setFocusPolicy(Qt::StrongFocus);
+    // The scene paints every pixel, so nothing has to be painted under it.
+    viewport()->setAutoFillBackground(false);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 
     m_noScheduleLabel->setStyleSheet(
         QStringLiteral("background-color: rgba(0,0,0,128); color: white; font-weight: bold;"));
@@ -188,6 +192,14 @@ void ZvTimeTableView::mouseReleaseEvent(QMouseEvent *event)
 {
     m_lastReleasePos = event->pos();
     QGraphicsView::mouseReleaseEvent(event);
+}
+
+void ZvTimeTableView::paintEvent(QPaintEvent *event)
+{
+    // After the scene was given up.
+    if (!scene())
+        QPainter(viewport()).fillRect(event->rect(), viewport()->palette().base());
+    QGraphicsView::paintEvent(event);
 }
 
 void ZvTimeTableView::contextMenuEvent(QContextMenuEvent *event)
