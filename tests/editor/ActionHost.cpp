@@ -2,12 +2,14 @@
 
 #include "SceneMouse.h"
 
+#include "ZvConfig.h"
 #include "ZvEditorCommon.h"
 #include "domain/ZvScheduleBasicInfo.h"
 #include "editor/DockNames.h"
 #include "navigation/ZvCalendarWidget.h"
 #include "navigation/ZvScheduleListWidget.h"
 #include "navigation/ZvScheduleSwitcherWidget.h"
+#include "services/UndoCommands.h"
 #include "services/ZvScheduleClipboard.h"
 #include "timetable/ZvTimeTableTimeItem.h"
 #include "workspace/ZvScheduleRenameTabWidget.h"
@@ -32,8 +34,10 @@ namespace ZavoTest {
 namespace {
 
 const QDate Date(2031, 5, 6);
-const QPointF EmptyPlace(180.0, 1210.0); // 20 o'clock, where a paste goes to
-constexpr int AnswerInterval = 1;        // ms
+const QPointF EmptyPlace(180.0, 1210.0);    // 20 o'clock, where a paste goes to
+constexpr auto DayOfWeek = Weekday::Friday; // not that of the date
+constexpr int AnswerInterval = 1;           // ms
+constexpr int TabCount = 3;
 
 QList<ZvTime> threeBands()
 {
@@ -43,36 +47,27 @@ QList<ZvTime> threeBands()
     return times;
 }
 
-// A band and a schedule, so that every widget has something to paste.
-void fillClipboard()
-{
-    const QList<ZvTime> times = {{QTime(1, 0), QTime(2, 0), QStringLiteral("copied.xml")}};
-    ZvSchedule schedule;
-    schedule.setType(ZvSchedule::Default);
-    schedule.setTimeList(times);
-    auto *payload = new QMimeData;
-    payload->setData(ZvEditorCommon::MIME_TYPE_TIME_DATA, ZvScheduleClipboard::timesToXml(times));
-    payload->setData(ZvEditorCommon::MIME_TYPE_SCHEDULE_DATA,
-                     ZvScheduleClipboard::schedulesToXml({schedule}));
-    QGuiApplication::clipboard()->setMimeData(payload);
-}
-
 QString number(int value)
 {
     return QString::number(value);
 }
 
-QList<QAction *> actionsOf(const QMenu *menu)
+QString shownSchedule(const ZvScheduleWorkingArea &page)
 {
-    QList<QAction *> named;
-    const QList<QAction *> all = menu->actions();
-    for (QAction *action : all) {
-        if (action->menu())
-            named.append(actionsOf(action->menu()));
-        else if (!action->isSeparator())
-            named.append(action);
-    }
-    return named;
+    const ZvScheduleBasicInfo info = page.currentScheduleInfo();
+    if (info.type() == ZvSchedule::DayOfWeek)
+        return QStringLiteral("day %1").arg(info.dayOfWeek());
+    if (info.type() == ZvSchedule::Date)
+        return info.date() == QDate::currentDate() ? QStringLiteral("today")
+                                                   : info.date().toString(Qt::ISODate);
+    return QStringLiteral("default");
+}
+
+// What a host is like that shows a target, be it a new one or one that was used before.
+QMap<Target, ActionHost::State> &likeness()
+{
+    static QMap<Target, ActionHost::State> states;
+    return states;
 }
 
 } // namespace
@@ -81,15 +76,26 @@ ActionHost::ActionHost(Target target)
     : EditorFixture(QStringList())
     , m_target(target)
 {
+    ZvEditorConfig::getConfig()->setAllInOne(isFirst());
+    makeEditor();
     writeChannels();
+    m_files = fileState();
     // No button lies behind the end of the tool bar.
     window->resize(1100, 450);
-    m_isReady = startHidden() && prepare();
+    if (!startHidden())
+        return;
+    m_page = area(isFirst() ? 0 : 1);
+    window->findChild<QDockWidget *>(QLatin1String(DockName::ChooseStage))->hide();
+    m_layout = window->saveState();
+    connectWitnesses();
+    m_isReady = show(target);
 }
 
-// The docks take their sizes while nothing has to be painted, which is much the quicker.
+// The docks take their sizes while nothing has to be painted, which is much the quicker. What is
+// painted is not looked at here.
 bool ActionHost::startHidden()
 {
+    window->setUpdatesEnabled(false);
     const bool isStarted =
         editor->exec() && QTest::qWaitFor([this] { return tabs()->count() > 0; });
     window->show();
@@ -109,38 +115,153 @@ void ActionHost::writeChannels()
         writeChannelFile(data, channelFileName(1), {1, 1, QStringLiteral("Beta"), threeBands()});
     ZvChannel channel = readChannelFile(path);
     ZvSchedule schedule;
+    schedule.setTimeList(threeBands());
     schedule.setType(ZvSchedule::Date);
     schedule.setDate(Date);
-    schedule.setTimeList(threeBands());
+    channel.insertSchedule(schedule);
+    schedule.setType(ZvSchedule::DayOfWeek);
+    schedule.setDate({});
+    schedule.setDayOfWeek(DayOfWeek);
     channel.insertSchedule(schedule);
     channel.writeToFile();
 }
 
-// Something to undo and to redo, to save and to paste, and a dock that is not where it was.
-bool ActionHost::prepare()
+bool ActionHost::show(Target target)
 {
-    m_page = area(1);
-    main()->changeChannelNameWithUndo(2, QStringLiteral("Gamma1"));
-    main()->changeChannelNameWithUndo(1, QStringLiteral("Beta1"));
-    main()->changeChannelNameWithUndo(1, QStringLiteral("Beta2"));
-    main()->undoGroup()->undo();
-    window->findChild<QDockWidget *>(QLatin1String(DockName::ChooseStage))->hide();
-    main()->switchToDateSchedule(m_target == Target::Missing ? Date.addDays(1) : Date);
-    if (m_target == Target::Default)
-        main()->switchToDefaultSchedule();
+    if (!main() || tabs()->count() < TabCount || (target == Target::First) != isFirst())
+        return false;
+    m_target = target;
+    delete m_nameEditor;
+    restoreChannels();
+    restoreDocks();
+    restoreCalendar();
+    showSchedule();
     QCoreApplication::processEvents(); // the place of the table in the window
-    SceneMouse(area(1)->findChild<QGraphicsView *>()).click(EmptyPlace);
+    SceneMouse(m_page->findChild<QGraphicsView *>()).click(EmptyPlace);
     select();
     mark();
     fillClipboard();
-    QCoreApplication::processEvents();
-    connectWitnesses();
     window->activateWindow();
-    return tabs()->currentIndex() == 1 && QTest::qWaitForWindowActive(window.get());
+    QCoreApplication::processEvents();
+    if (!QTest::qWaitForWindowActive(window.get()))
+        return false;
+    m_events.clear();
+    auto known = likeness().constFind(target);
+    if (known == likeness().constEnd())
+        known = likeness().insert(target, state());
+    return *known == state();
+}
+
+// Most commands leave the channels alone, or do no more than to walk through the history.
+void ActionHost::restoreChannels()
+{
+    const auto isSame = [this](int tab) {
+        const QUndoStack *stack = area(tab)->undoStack();
+        const QUndoCommand *last =
+            stack->count() > 0 ? stack->command(stack->count() - 1) : nullptr;
+        // Another command may lie where a deleted one lay.
+        return last == m_edits.value(tab) &&
+               dynamic_cast<const UndoCommand::ChangeChannelName *>(last);
+    };
+    const bool isHistoryKept =
+        isFirst() ? area(0)->undoStack()->count() == 0 && isSame(2) : isSame(1) && isSame(2);
+    if (tabs()->count() != TabCount || !isHistoryKept || fileState() != m_files) {
+        removeAddedTabs();
+        undoEdits();
+        restoreFiles();
+        makeEdits();
+    }
+    if (!isFirst())
+        m_page->undoStack()->setIndex(1);
+    tabs()->setCurrentWidget(m_page);
+}
+
+void ActionHost::removeAddedTabs()
+{
+    while (tabs()->count() > TabCount) {
+        tabs()->setCurrentIndex(TabCount);
+        main()->removeCurrentChannel();
+    }
+}
+
+void ActionHost::undoEdits()
+{
+    if (isFirst())
+        setFirstDefaultStage({});
+    for (int i = 0; i < TabCount; ++i) {
+        QUndoStack *stack = area(i)->undoStack();
+        if (stack->count() == 0)
+            continue;
+        stack->setIndex(0);
+        stack->clear();
+    }
+}
+
+// What is in the files is what the channels will be compared with.
+void ActionHost::restoreFiles()
+{
+    if (fileState() == m_files)
+        return;
+    main()->saveAllChannel();
+    const State written = fileState();
+    for (auto it = written.cbegin(); it != written.cend(); ++it) {
+        if (!m_files.contains(it.key()))
+            QFile::remove(data.channelFolder() + QLatin1Char('/') + it.key());
+    }
+    for (auto it = m_files.cbegin(); it != m_files.cend(); ++it)
+        data.write(QStringLiteral("channel/") + it.key(), it.value().toUtf8());
+}
+
+void ActionHost::restoreDocks()
+{
+    if (window->saveState() != m_layout)
+        window->restoreState(m_layout);
+}
+
+void ActionHost::restoreCalendar()
+{
+    auto *calendar = window->findChild<ZvCalendarWidget *>();
+    calendar->setFirstDayOfWeek(Qt::Monday);
+    calendar->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
+}
+
+// Something to save, and, but on the first tab, to undo and to redo.
+void ActionHost::makeEdits()
+{
+    main()->changeChannelNameWithUndo(2, QStringLiteral("Gamma1"));
+    if (isFirst()) {
+        setFirstDefaultStage(QStringLiteral("stage.xml"));
+    } else {
+        main()->changeChannelNameWithUndo(1, QStringLiteral("Beta1"));
+        main()->changeChannelNameWithUndo(1, QStringLiteral("Beta2"));
+    }
+    for (const int tab : {1, 2}) {
+        const QUndoStack *stack = area(tab)->undoStack();
+        m_edits.insert(tab, stack->command(stack->count() - 1));
+    }
+}
+
+// This leaves nothing in the history.
+void ActionHost::setFirstDefaultStage(const QString &stage)
+{
+    tabs()->setCurrentIndex(0);
+    main()->switchToDefaultSchedule();
+    area(0)->setDefaultStageName(stage);
+}
+
+void ActionHost::showSchedule()
+{
+    main()->switchToDateSchedule(m_target == Target::Missing ? Date.addDays(1) : Date);
+    window->findChild<ZvCalendarWidget *>()->clearMultiSelection();
+    if (m_target == Target::WeekDay)
+        main()->switchToDayOfWeekSchedule(Qt::DayOfWeek(DayOfWeek));
+    if (m_target == Target::Default || isFirst())
+        main()->switchToDefaultSchedule();
 }
 
 void ActionHost::mark() const
 {
+    list()->deselectAllItems();
     if (m_target == Target::Partly)
         window->findChild<ZvCalendarWidget *>()->selectWeek(Date);
     const auto check = [this](const ZvScheduleBasicInfo &info) {
@@ -148,20 +269,41 @@ void ActionHost::mark() const
     };
     if (m_target == Target::Partly || m_target == Target::Wholly)
         check(ZvScheduleBasicInfo(Date));
-    if (m_target == Target::Default || m_target == Target::Wholly)
+    if (m_target == Target::WeekDay || m_target == Target::Wholly)
+        check(ZvScheduleBasicInfo(DayOfWeek));
+    if (m_target == Target::Default || m_target == Target::Wholly || isFirst())
         check(ZvScheduleBasicInfo(ZvSchedule::Default));
 }
 
 void ActionHost::select() const
 {
-    if (m_target == Target::Missing || m_target == Target::Nothing)
+    main()->deselectAllItems();
+    if (m_target == Target::Missing || m_target == Target::Nothing || isFirst())
         return;
     main()->selectAllItems();
-    if (m_target != Target::Partly)
+    const QList<ZvTimeTableTimeItem *> items = m_page->selectedTimeItems();
+    if (m_target == Target::Partly)
+        items.at(1)->setSelected(false);
+    if (m_target == Target::Partly || m_target == Target::WeekDay)
+        items.at(2)->setSelected(false);
+}
+
+// A band and a schedule, so that every widget has something to paste.
+void ActionHost::fillClipboard() const
+{
+    if (isFirst()) {
+        QGuiApplication::clipboard()->clear();
         return;
-    const QList<ZvTimeTableTimeItem *> items = area(1)->selectedTimeItems();
-    for (int i = 1; i < items.size(); ++i)
-        items.at(i)->setSelected(false);
+    }
+    const QList<ZvTime> times = {{QTime(1, 0), QTime(2, 0), QStringLiteral("copied.xml")}};
+    ZvSchedule schedule;
+    schedule.setType(ZvSchedule::Default);
+    schedule.setTimeList(times);
+    auto *payload = new QMimeData;
+    payload->setData(ZvEditorCommon::MIME_TYPE_TIME_DATA, ZvScheduleClipboard::timesToXml(times));
+    payload->setData(ZvEditorCommon::MIME_TYPE_SCHEDULE_DATA,
+                     ZvScheduleClipboard::schedulesToXml({schedule}));
+    QGuiApplication::clipboard()->setMimeData(payload);
 }
 
 void ActionHost::connectWitnesses()
@@ -232,6 +374,19 @@ QList<QAction *> ActionHost::actions() const
     return all;
 }
 
+QList<QAction *> ActionHost::actionsOf(const QMenu *menu)
+{
+    QList<QAction *> named;
+    const QList<QAction *> all = menu->actions();
+    for (QAction *action : all) {
+        if (action->menu())
+            named.append(actionsOf(action->menu()));
+        else if (!action->isSeparator())
+            named.append(action);
+    }
+    return named;
+}
+
 QAction *ActionHost::actionOf(const QString &name) const
 {
     const QList<QAction *> all = actions();
@@ -295,9 +450,11 @@ QString ActionHost::visibleDocks() const
 bool ActionHost::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ChildPolished) {
-        const auto *child = static_cast<const QChildEvent *>(event)->child();
-        if (const auto *edited = qobject_cast<const ZvScheduleRenameTabWidget *>(child))
+        QObject *child = static_cast<const QChildEvent *>(event)->child();
+        if (auto *edited = qobject_cast<ZvScheduleRenameTabWidget *>(child)) {
+            m_nameEditor = edited;
             m_events.append(QStringLiteral("renames ") + edited->text());
+        }
     }
     return QObject::eventFilter(watched, event);
 }
@@ -310,6 +467,7 @@ ActionHost::State ActionHost::state() const
         return state;
     state.insert(QStringLiteral("tabs"), tabTexts());
     state.insert(QStringLiteral("tab"), number(tabs()->currentIndex()));
+    state.insert(QStringLiteral("shown"), shownSchedule(*page));
     state.insert(QStringLiteral("docks"), visibleDocks());
     state.insert(QStringLiteral("marked"), number(list()->checkedInfos().size()));
     insertCalendar(&state);
@@ -344,22 +502,6 @@ QString ActionHost::changesSince(const State &before)
             changes.append(it.key() + QStringLiteral(" new"));
     }
     return changes.join(QStringLiteral("; "));
-}
-
-bool ActionHost::goBackTo(const State &before)
-{
-    if (!main())
-        return false;
-    if (state().value(QStringLiteral("history")) != before.value(QStringLiteral("history")))
-        main()->undoGroup()->undo();
-    main()->deselectAllItems();
-    list()->deselectAllItems();
-    select();
-    mark();
-    fillClipboard();
-    QCoreApplication::processEvents();
-    m_events.clear();
-    return state() == before;
 }
 
 } // namespace ZavoTest
