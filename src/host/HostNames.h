@@ -11,6 +11,8 @@ constexpr char tabWidget[] = "ScheduleTabWidget";
 constexpr char saveAction[] = "Action_Save_Channel";
 constexpr char saveAllAction[] = "Action_Save_All_Channel";
 constexpr char aboutAction[] = "Action_About";
+constexpr char aboutQtAction[] = "Action_About_Qt";
+constexpr char whatsThisAction[] = "Action_Whats_This";
 
 /// Keys of the user settings.
 constexpr char dataFolderKey[] = "data_folder";

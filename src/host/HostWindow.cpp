@@ -21,6 +21,8 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
+#include <QStatusBar>
+#include <QWhatsThis>
 
 namespace Zavo {
 
@@ -40,6 +42,8 @@ HostWindow::HostWindow(QWidget *parent)
         tr("%1 - Zavo Schedule Editor").arg(QDir::toNativeSeparators(ZvEditorConfig::dataDir())));
     setWindowIcon(QIcon(QStringLiteral(":/icons/zavo-schedule-editor.svg")));
     takeDefaultSize();
+    // Where the status tips of the actions appear.
+    statusBar()->setSizeGripEnabled(false);
     m_editor->setHelpMenu(createHelpMenu());
     const QList<QMenu *> menus = m_editor->menu();
     for (QMenu *menu : menus)
@@ -79,6 +83,11 @@ bool HostWindow::endSession(bool mayAsk)
 void HostWindow::showVersionInformation()
 {
     VersionBox(this).exec();
+}
+
+void HostWindow::explain()
+{
+    QWhatsThis::enterWhatsThisMode();
 }
 
 void HostWindow::showConfiguration()
@@ -153,12 +162,17 @@ QMenu *HostWindow::createToolsMenu()
     QAction *const check = menu->addAction(tr("&Check Data..."), this, SLOT(checkData()));
     check->setObjectName(QLatin1String(HostNames::checkAction));
     check->setStatusTip(tr("Looks for what is wrong in the saved channels and their stages"));
+    check->setWhatsThis(tr("Reads all channel files and the stages they use and lists what is "
+                           "wrong: stages that are missing, time without a stage, bands that "
+                           "overlap, files that are passed over."));
     menu->addSeparator();
     QAction *const configuration =
         menu->addAction(tr("&Configuration..."), m_editor, SLOT(showConfiguration()));
     configuration->setObjectName(QLatin1String(HostNames::configurationAction));
     configuration->setStatusTip(
         tr("Changes the data folder, what its schedules are shown by, and the upload targets"));
+    configuration->setWhatsThis(tr("Shows the data folder, the settings of its schedules and the "
+                                   "upload targets, each with an explanation, to be changed."));
     configuration->setMenuRole(QAction::PreferencesRole);
     return menu;
 }
@@ -167,10 +181,25 @@ QMenu *HostWindow::createHelpMenu()
 {
     auto *const menu = new QMenu(tr("&Help"), this);
     menu->setObjectName(QLatin1String(HostNames::helpMenu));
-    menu->addAction(
-        tr("&About Zavo Schedule Editor"), m_editor,
-        SLOT(showVersionInformation()))->setObjectName(QLatin1String(HostNames::aboutAction));
-    menu->addAction(tr("About &Qt"), qApp, SLOT(aboutQt()));
+    QAction *const whatsThis = menu->addAction(tr("&What's This?"), this, SLOT(explain()));
+    whatsThis->setObjectName(QLatin1String(HostNames::whatsThisAction));
+    whatsThis->setShortcut(Qt::SHIFT + Qt::Key_F1);
+    whatsThis->setStatusTip(tr("Explains what you click next"));
+    whatsThis->setWhatsThis(tr("Click a command or a part of the window after this, and it is "
+                               "explained. Esc ends it."));
+    menu->addSeparator();
+    QAction *const about = menu->addAction(tr("&About Zavo Schedule Editor"), m_editor,
+                                           SLOT(showVersionInformation()));
+    about->setObjectName(QLatin1String(HostNames::aboutAction));
+    about->setStatusTip(tr("Shows the version of the program and where its data are"));
+    about->setWhatsThis(tr("Shows the version of the program, of the library it is built on, and "
+                           "the data folder that is open."));
+    about->setMenuRole(QAction::AboutRole);
+    QAction *const aboutQt = menu->addAction(tr("About &Qt"), qApp, SLOT(aboutQt()));
+    aboutQt->setObjectName(QLatin1String(HostNames::aboutQtAction));
+    aboutQt->setStatusTip(tr("Shows the version of the library that the program is built on"));
+    aboutQt->setWhatsThis(tr("Tells about Qt, the library that the program is built on."));
+    aboutQt->setMenuRole(QAction::AboutQtRole);
     return menu;
 }
 

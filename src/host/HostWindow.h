@@ -55,6 +55,9 @@ public:
 public Q_SLOTS:
     void showVersionInformation();
 
+    /// The next click explains what it is on.
+    void explain();
+
     /// Shows the configuration of the program and waits until it is closed.
     void showConfiguration();
 

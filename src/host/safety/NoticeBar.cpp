@@ -24,6 +24,8 @@ NoticeBar::NoticeBar(QAction *copiesAction, QWidget *parent)
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *const closeAction = new QAction(tr("Close"), this);
     closeAction->setObjectName(QLatin1String(SafetyNames::noticeCloseAction));
+    closeAction->setStatusTip(tr("Hides this notice"));
+    closeAction->setWhatsThis(tr("Hides this notice until there is another one."));
     connect(closeAction, SIGNAL(triggered()), this, SLOT(clear()));
     auto *const content = new QWidget;
     content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

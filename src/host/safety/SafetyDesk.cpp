@@ -106,7 +106,10 @@ void SafetyDesk::addAction()
 {
     m_copiesAction = new QAction(tr("Safety &Copies..."), m_window);
     m_copiesAction->setObjectName(QLatin1String(SafetyNames::copiesAction));
-    m_copiesAction->setStatusTip(tr("Shows earlier states of the channels and restores one."));
+    m_copiesAction->setStatusTip(tr("Shows earlier states of the channels and restores one"));
+    m_copiesAction->setWhatsThis(
+        tr("Lists the states that each channel file had before it was "
+           "replaced or removed, with what differs, and brings one back."));
     connect(m_copiesAction, SIGNAL(triggered()), this, SLOT(showCopies()));
     auto *const help = m_window->findChild<QMenu *>(QLatin1String(HostNames::helpMenu));
     if (!help)

@@ -1,6 +1,7 @@
 #include "editor/MainMenu.h"
 
 #include "domain/ActionNames.h"
+#include "editor/ActionHelp.h"
 #include "editor/ActionRegistry.h"
 
 #include <QCoreApplication>
@@ -177,16 +178,19 @@ void addRow(QMenu *menu, const ActionRow &row, ActionRegistry *registry, QObject
         menu->addSeparator();
         return;
     }
-    QAction *action = menu->addAction(menuText(row.text));
+    auto *action = new QAction(menuText(row.text), menu);
     action->setObjectName(QLatin1String(row.name));
     registry->addAction(action);
     if (row.icon)
         action->setIcon(QIcon(QLatin1String(row.icon)));
     setShortcut(action, row.shortcut);
+    setActionHelp(action, row.name ? row.name : row.slot);
     const QByteArray slot = QByteArray::number(QSLOT_CODE) + row.slot;
     action->setCheckable(row.checkable);
     const char *signal = row.checkable ? SIGNAL(toggled(bool)) : SIGNAL(triggered());
     QObject::connect(action, signal, receiver, slot.constData());
+    // Last: a menu hears of every change of an action that it has.
+    menu->addAction(action);
 }
 
 } // namespace

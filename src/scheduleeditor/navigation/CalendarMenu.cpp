@@ -10,6 +10,39 @@ namespace Zavo {
 
 namespace {
 
+void setHelp(QAction *action, const QString &statusTip, const QString &whatsThis)
+{
+    action->setStatusTip(statusTip);
+    action->setWhatsThis(whatsThis);
+}
+
+// Which dates are selected, and where.
+void addSelectionActions(QMenu *menu, ZvCalendarWidget *calendar)
+{
+    setHelp(menu->addAction(ZvCalendarWidget::tr("Move to &Today"), calendar, SLOT(selectToday())),
+                            ZvCalendarWidget::tr("Shows today's schedule"),
+                            ZvCalendarWidget::tr(
+                                "Turns the calendar to the present month and shows the schedule "
+                                "of today's date."));
+    menu->addSeparator();
+    setHelp(menu->addAction(ZvCalendarWidget::tr("Select &Week"), calendar, SLOT(selectWeek())),
+                            ZvCalendarWidget::tr("Selects the whole week of the selected date"),
+                            ZvCalendarWidget::tr(
+                                "Selects the seven days of the week of the selected date. Cut, "
+                                "copy, paste and delete then act on all of them."));
+    setHelp(menu->addAction(ZvCalendarWidget::tr("Select &Month"), calendar, SLOT(selectMonth())),
+                            ZvCalendarWidget::tr("Selects the whole month of the selected date"),
+                            ZvCalendarWidget::tr(
+                                "Selects all days of the month of the selected date. Cut, copy, "
+                                "paste and delete then act on all of them."));
+    QAction *clear = menu->addAction(ZvCalendarWidget::tr("Clear &Selections"), calendar,
+                                     SLOT(clearMultiSelection()));
+    clear->setObjectName(QLatin1String(NavigationName::ClearSelectionsAction));
+    setHelp(clear, ZvCalendarWidget::tr("Leaves only one date selected"),
+            ZvCalendarWidget::tr("Takes the selection off all dates but the one whose schedule is "
+                                 "shown."));
+}
+
 QMenu *addFirstDayOfWeekMenu(QMenu *menu, int firstDayOfWeek)
 {
     // In the order of Qt::DayOfWeek.
@@ -20,6 +53,8 @@ QMenu *addFirstDayOfWeekMenu(QMenu *menu, int firstDayOfWeek)
     };
     QMenu *days = menu->addMenu(ZvCalendarWidget::tr("&First Day of Week"));
     days->setObjectName(QLatin1String(NavigationName::FirstDayOfWeekMenu));
+    setHelp(days->menuAction(), ZvCalendarWidget::tr("Chooses the day with which the weeks begin"),
+            ZvCalendarWidget::tr("Chooses the day that stands first in the rows of the calendar."));
     int day = Qt::Monday;
     for (const QString &text : texts) {
         QAction *action = days->addAction(text);
@@ -27,6 +62,9 @@ QMenu *addFirstDayOfWeekMenu(QMenu *menu, int firstDayOfWeek)
                               QString::number(day));
         action->setCheckable(true);
         action->setChecked(day == firstDayOfWeek);
+        setHelp(action, ZvCalendarWidget::tr("Begins the weeks of the calendar with this day"),
+                ZvCalendarWidget::tr("Begins the weeks of the calendar with this day, until the "
+                                     "editor is closed."));
         ++day;
     }
     return days;
@@ -49,13 +87,7 @@ QMenu *createCalendarMenu(ZvCalendarWidget *calendar)
     auto *menu = new QMenu(ZvCalendarWidget::tr("C&alendar"), calendar);
     menu->setObjectName(QLatin1String(MenuName::Calendar));
 
-    menu->addAction(ZvCalendarWidget::tr("Move to &Today"), calendar, SLOT(selectToday()));
-    menu->addSeparator();
-    menu->addAction(ZvCalendarWidget::tr("Select &Week"), calendar, SLOT(selectWeek()));
-    menu->addAction(ZvCalendarWidget::tr("Select &Month"), calendar, SLOT(selectMonth()));
-    QAction *clear = menu->addAction(ZvCalendarWidget::tr("Clear &Selections"), calendar,
-                                     SLOT(clearMultiSelection()));
-    clear->setObjectName(QLatin1String(NavigationName::ClearSelectionsAction));
+    addSelectionActions(menu, calendar);
     menu->addSeparator();
 
     QObject::connect(addFirstDayOfWeekMenu(menu, calendar->firstDayOfWeek()),
@@ -66,6 +98,8 @@ QMenu *createCalendarMenu(ZvCalendarWidget *calendar)
     weekNumber->setObjectName(QLatin1String(NavigationName::ShowWeekNumberAction));
     weekNumber->setCheckable(true);
     weekNumber->setChecked(calendar->verticalHeaderFormat() == QCalendarWidget::ISOWeekNumbers);
+    setHelp(weekNumber, ZvCalendarWidget::tr("Shows or hides the numbers of the weeks"),
+            ZvCalendarWidget::tr("Shows or hides the numbers of the weeks beside the calendar."));
     QObject::connect(weekNumber, SIGNAL(triggered(bool)), calendar,
                                         SLOT(onActionShowWeekNumberTriggerd(bool)));
 

@@ -2,6 +2,7 @@
 
 #include "domain/ToolButtonStyle.h"
 #include "navigation/NavigationNames.h"
+#include "navigation/ZvCalendarWidget.h"
 
 #include <QBoxLayout>
 #include <QVariant>
@@ -91,6 +92,20 @@ void CalendarNavigationBar::addMenuButton(QMenu *menu)
     button->setMenu(menu);
     button->setPopupMode(QToolButton::InstantPopup);
     layout()->insertWidget(layout()->indexOf(nextMonthButton()), button);
+}
+
+// Month and year have texts.
+void CalendarNavigationBar::setAccessibleNames()
+{
+    if (QToolButton *previous = previousMonthButton())
+        previous->setAccessibleName(ZvCalendarWidget::tr("Previous month"));
+    if (QToolButton *next = nextMonthButton())
+        next->setAccessibleName(ZvCalendarWidget::tr("Next month"));
+    if (QToolButton *menu = menuButton())
+        menu->setAccessibleName(ZvCalendarWidget::tr("Menu of the calendar"));
+    const QLatin1String yearEditName(NavigationName::CalendarYearEdit);
+    if (auto *yearEdit = m_bar ? m_bar->findChild<QWidget *>(yearEditName) : nullptr)
+        yearEdit->setAccessibleName(ZvCalendarWidget::tr("Year"));
 }
 
 void CalendarNavigationBar::setArrows(Qt::LayoutDirection direction)

@@ -27,6 +27,9 @@ public:
     /// Puts a button that opens @p menu before the one of the next month.
     void addMenuButton(QMenu *menu);
 
+    /// What assistive technology calls the buttons without a text.
+    void setAccessibleNames();
+
     /// The arrow of the previous month points to where the page comes from.
     void setArrows(Qt::LayoutDirection direction);
     /// Icons are 16 px wide and high at ratio 1.

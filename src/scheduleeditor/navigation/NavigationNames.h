@@ -27,6 +27,7 @@ inline constexpr char CalendarPreviousMonth[] = "qt_calendar_prevmonth";
 inline constexpr char CalendarNextMonth[] = "qt_calendar_nextmonth";
 inline constexpr char CalendarMonthButton[] = "qt_calendar_monthbutton";
 inline constexpr char CalendarYearButton[] = "qt_calendar_yearbutton";
+inline constexpr char CalendarYearEdit[] = "qt_calendar_yearedit";
 
 inline constexpr char CalendarMenuButton[] = "zv_calendar_menubutton";
 /// Property of the year button: the word behind the year.

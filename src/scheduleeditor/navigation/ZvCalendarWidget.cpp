@@ -38,6 +38,9 @@ ZvCalendarWidget::ZvCalendarWidget(QWidget *parent)
     m_menu = createMenu();
     setupNavigationBar();
     setupView();
+    setWhatsThis(tr("Click a date to edit its schedule. Ctrl and Shift select several dates for "
+                    "the commands of the edit menu. A frame marks the dates that have a schedule, "
+                    "and green is today."));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showContextMenu(QPoint)));
 }
@@ -53,6 +56,7 @@ void ZvCalendarWidget::setupNavigationBar()
     }
     setupMonthButton();
     m_navigationBar.addMenuButton(m_menu);
+    m_navigationBar.setAccessibleNames();
     if (QToolButton *button = m_navigationBar.menuButton())
         button->installEventFilter(this);
     setupYearButton();
@@ -91,6 +95,7 @@ void ZvCalendarWidget::setupView()
 {
     if (!m_calendarView)
         return;
+    m_calendarView->setAccessibleName(tr("Calendar"));
     m_calendarView->setAttribute(Qt::WA_MouseTracking);
     m_calendarView->installEventFilter(this);
     // Another page puts another date under a mouse that rests.

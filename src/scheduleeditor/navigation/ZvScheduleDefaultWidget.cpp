@@ -18,6 +18,9 @@ ZvScheduleDefaultWidget::ZvScheduleDefaultWidget(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_titleLabel);
     layout->addWidget(m_stageLabel);
+    setAccessibleName(m_titleLabel->text());
+    setWhatsThis(tr("Click here to edit the default schedule. It is used on each day for which "
+                    "neither its date nor its day of the week has a schedule."));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showContextMenu(QPoint)));
 }

@@ -50,6 +50,9 @@ ZvScheduleListWidget::ZvScheduleListWidget(QWidget *parent)
     , m_toolMenu(new QMenu(this))
 {
     setWindowTitle(tr("Schedule List"));
+    setAccessibleName(windowTitle());
+    setWhatsThis(tr("The schedules of the channel. The selected row is the schedule in the time "
+                    "table. The commands of the edit menu act on the checked rows."));
     m_channelLabel->setTextFormat(Qt::PlainText);
     // A long name must not widen the dock.
     m_channelLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -78,6 +81,9 @@ void ZvScheduleListWidget::createToolMenu()
                                             tr("&New Schedule..."));
     action->setObjectName(QLatin1String(NavigationName::NewScheduleAction));
     action->setShortcut(QKeySequence::New);
+    action->setStatusTip(tr("Creates a schedule for a date or a day of the week"));
+    action->setWhatsThis(tr("Asks for a date or a day of the week, creates a schedule for it and "
+                            "shows it. A date or day that has none yet is proposed."));
     connect(action, SIGNAL(triggered()), this, SLOT(onActionNewScheduleRequested()));
     m_toolMenu->addSeparator();
     connect(m_toolMenu, SIGNAL(aboutToShow()), this, SLOT(onToolMenuAboutToShow()));
@@ -92,6 +98,7 @@ void ZvScheduleListWidget::createMenuButton()
     m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setStyleSheet(QLatin1String(ToolButtonStyle));
     m_menuButton->setMenu(m_toolMenu);
+    m_menuButton->setAccessibleName(tr("Menu of the schedule list"));
     m_menuButton->installEventFilter(this);
 }
 
@@ -106,6 +113,7 @@ void ZvScheduleListWidget::createTreeView(double dpiRatio)
     m_treeView->viewport()->installEventFilter(this);
     m_treeView->header()->viewport()->installEventFilter(this);
     m_treeView->setModel(m_model);
+    m_treeView->setAccessibleName(tr("Schedules of the channel"));
     m_treeView->setContextMenuPolicy(Qt::CustomContextMenu);
     m_treeView->setStyleSheet(QStringLiteral("font-size: 9.0pt;"));
     layout()->addWidget(m_treeView);

@@ -68,6 +68,10 @@ ZvScheduleSwitcherWidget::ZvScheduleSwitcherWidget(QWidget *parent)
     m_weekWidget->setObjectName(QLatin1String(NavigationName::WeekWidget));
     m_defaultWidget->setObjectName(QLatin1String(NavigationName::DefaultWidget));
     m_weekWidget->selectDayOfWeek(static_cast<Qt::DayOfWeek>(QDate::currentDate().dayOfWeek()));
+    setAccessibleName(tr("Switch Schedule"));
+    setWhatsThis(tr("Chooses the schedule in the time table: that of a date in the calendar, that "
+                    "of a day of the week, or the default one. The bar at the left edge marks the "
+                    "chosen kind."));
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);

@@ -28,6 +28,8 @@ ZvScheduledToBeExecutedWidget::ZvScheduledToBeExecutedWidget(QWidget *parent)
     m_captionLabel->setStyleSheet(
         QStringLiteral("padding: 5px;padding-right: 0px;margin-left:5px;"));
     showSchedule(tr("DEFAULT"), QStringLiteral("color: orange;"));
+    setWhatsThis(tr("Tells which schedule is used on the selected date: that of the date itself, "
+                    "else that of its day of the week, else the default schedule."));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_titleLabel);
     layout->addWidget(createNameWidget());

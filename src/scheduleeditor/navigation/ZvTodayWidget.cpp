@@ -47,6 +47,9 @@ ZvTodayWidget::ZvTodayWidget(QWidget *parent)
     layout->addItem(new QSpacerItem(TodaySpacerPx, TodaySpacerPx, QSizePolicy::Expanding,
                                     QSizePolicy::Minimum));
     setToolTip(tr("Move to Today"));
+    setAccessibleName(toolTip());
+    setWhatsThis(tr("Today's date. Click it to turn the calendar to today and show the schedule of "
+                    "that date."));
 }
 
 void ZvTodayWidget::mousePressEvent(QMouseEvent *event)

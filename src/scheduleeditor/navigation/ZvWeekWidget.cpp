@@ -28,6 +28,9 @@ ZvWeekWidget::ZvWeekWidget(QWidget *parent)
     for (ZvDayOfWeekWidget *cell : qAsConst(m_dayWidgets))
         m_daysLayout->addWidget(cell);
 
+    setAccessibleName(m_titleLabel->text());
+    setWhatsThis(tr("Click a day to edit the schedule that is used on that day of every week. A "
+                    "frame marks the days that have one. A schedule of a date goes before it."));
     setContextMenuPolicy(Qt::CustomContextMenu);
     connect(this, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(showContextMenu(QPoint)));
 }

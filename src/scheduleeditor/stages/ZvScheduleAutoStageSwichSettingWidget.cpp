@@ -43,6 +43,13 @@ QTimeEdit *createTimeEdit(QTime earliest, QTime latest, QTime time)
     return edit;
 }
 
+QLabel *labelOf(QWidget *editor, const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setBuddy(editor);
+    return label;
+}
+
 QLabel *createWarning(const QString &text)
 {
     auto *note = new QLabel(text);
@@ -96,7 +103,7 @@ QLayout *ZvScheduleAutoStageSwichSettingWidget::createIntervalRow()
     m_intervalSpinBox->setValue(usualIntervalSeconds);
 
     auto *row = new QHBoxLayout;
-    row->addWidget(new QLabel(tr("Switching Interval")));
+    row->addWidget(labelOf(m_intervalSpinBox, tr("Switching Interval")));
     row->addWidget(m_intervalSpinBox);
     row->addWidget(new QLabel(tr("Seconds")));
     row->addStretch();
@@ -111,9 +118,9 @@ QWidget *ZvScheduleAutoStageSwichSettingWidget::createRangeBox()
 
     auto *box = new QGroupBox(tr("Time Range"));
     auto *row = new QHBoxLayout(box);
-    row->addWidget(new QLabel(tr("From")));
+    row->addWidget(labelOf(m_fromTimeEdit, tr("From")));
     row->addWidget(m_fromTimeEdit);
-    row->addWidget(new QLabel(tr(" To")));
+    row->addWidget(labelOf(m_toTimeEdit, tr(" To")));
     row->addWidget(m_toTimeEdit);
     row->addWidget(m_at24oclockCheckBox);
     row->addStretch();

@@ -34,6 +34,9 @@ ZvScheduleDefaultStageWidget::ZvScheduleDefaultStageWidget(QWidget *parent)
     m_label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_label->setTextFormat(Qt::PlainText);
 
+    setWhatsThis(tr("The stage that is shown whenever no other one is scheduled. Drop a stage on "
+                    "the box to choose it; the check mark takes it away."));
+
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(layoutMarginPx, layoutMarginPx, layoutMarginPx, layoutMarginPx);
     layout->setSpacing(0);

@@ -77,6 +77,7 @@ QWidget *ZvScheduleStageChooserWidget::createListPane()
 {
     auto *title = new QLabel(tr("Stage List"));
     title->setStyleSheet(QStringLiteral("margin-top: 5px;"));
+    title->setBuddy(m_listView);
     auto *pane = new QWidget;
     auto *layout = new QVBoxLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -88,6 +89,10 @@ QWidget *ZvScheduleStageChooserWidget::createListPane()
 // From the outside in: whatever is put into another widget takes its style over, with all it holds.
 void ZvScheduleStageChooserWidget::setupContent()
 {
+    setAccessibleName(tr("Choose Stage"));
+    setWhatsThis(tr("The stages of the data folder. Drag one or several to the time table, or one "
+                    "to the box of the default stage above it."));
+    m_preview->setAccessibleName(m_previewCheckBox->text());
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);

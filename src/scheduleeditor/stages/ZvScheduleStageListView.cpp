@@ -107,6 +107,13 @@ void ZvScheduleStageListView::setupContextMenu()
     QAction *setSwitching =
         m_contextMenu->addAction(tr("Set the switching interval as Default Stage..."));
     setSwitching->setObjectName(QLatin1String(StagesName::SetSwitchingInterval));
+    setDefault->setStatusTip(tr("Shows this stage whenever no other one is scheduled"));
+    setDefault->setWhatsThis(tr("Makes the selected stage the default stage of the schedule in the "
+                                "time table. It fills all time without a stage."));
+    setSwitching->setStatusTip(tr("Shows this stage anew at a regular interval"));
+    setSwitching->setWhatsThis(tr("Asks for an interval and fills the schedule in the time table "
+                                  "so that the selected stage takes turns with a copy of itself. "
+                                  "The stages that were there are replaced."));
     setContextMenuPolicy(Qt::CustomContextMenu);
     // clang-format off
     connect(setDefault, SIGNAL(triggered()), this, SLOT(setSelectedItemToDefaultStage()));

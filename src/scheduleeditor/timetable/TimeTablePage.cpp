@@ -46,6 +46,7 @@ TimeTablePage::TimeTablePage(QWidget *parent)
     createTimeTable();
     connectParts();
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Schedule of the channel"));
     m_unseenWidgets = std::make_unique<UnseenWidgets>(this);
 }
 

@@ -44,6 +44,8 @@ QWidget *WorkingAreaHeader::newCreateWidget()
     button->setStyleSheet(QLatin1String(ToolButtonStyle));
     button->setMinimumHeight(createButtonHeightPx);
     button->setText(tr("You can create this schedule."));
+    button->setWhatsThis(tr("The chosen date or day has no schedule of its own. Click here to "
+                            "create it; only then can stages be dropped."));
     button->setAutoRaise(false);
     button->setPopupMode(QToolButton::InstantPopup);
     m_createButton = button;

@@ -46,7 +46,9 @@ void WorkingAreaStatusBar::createScale(QLayout *part)
     for (const double scale : scales)
         m_scaleComboBox->addItem(QStringLiteral("%1%").arg(scale * 100.0), scale);
     m_scaleComboBox->setCurrentIndex(initialScaleIndex);
-    part->addWidget(new QLabel(tr("Scale"), part->parentWidget()));
+    auto *label = new QLabel(tr("Scale"), part->parentWidget());
+    label->setBuddy(m_scaleComboBox);
+    part->addWidget(label);
     part->addWidget(m_scaleComboBox);
 }
 

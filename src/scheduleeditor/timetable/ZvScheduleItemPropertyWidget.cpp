@@ -68,6 +68,11 @@ ZvScheduleItemPropertyWidget::ZvScheduleItemPropertyWidget(QWidget *parent)
     , m_startTimeWidget(new ZvTimeSpinWidget)
     , m_endTimeWidget(new ZvTimeSpinWidget)
 {
+    setAccessibleName(tr("Assigned Item Property"));
+    setWhatsThis(tr("The stage that is selected in the time table, and when it starts and ends. "
+                    "Type a time or step it; the neighbours set the limits."));
+    m_startTimeWidget->setSubject(tr("Start Time"));
+    m_endTimeWidget->setSubject(tr("End Time"));
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -121,6 +126,7 @@ QToolButton *ZvScheduleItemPropertyWidget::addButton(QWidget *navigation, const 
     auto *button = new QToolButton(navigation);
     button->setIcon(QIcon(icon));
     button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
     button->setAutoRaise(false);
     navigation->layout()->addWidget(button);
     return button;

@@ -62,6 +62,14 @@ ZvTimeSpinWidget::ZvTimeSpinWidget(QWidget *parent)
     // clang-format on
 }
 
+void ZvTimeSpinWidget::setSubject(const QString &subject)
+{
+    setAccessibleName(subject);
+    m_hourBox->setAccessibleName(tr("%1, hours").arg(subject));
+    m_minuteBox->setAccessibleName(tr("%1, minutes").arg(subject));
+    m_secondBox->setAccessibleName(tr("%1, seconds").arg(subject));
+}
+
 bool ZvTimeSpinWidget::isAtLastHour() const
 {
     return m_hourBox->value() == m_hourBox->maximum();

@@ -22,6 +22,9 @@ public:
     /// The time that the boxes show.
     QTime currentTime() const;
 
+    /// What time it is, as assistive technology tells it before the parts.
+    void setSubject(const QString &subject);
+
     /// Shows @p time, held in the range; an invalid one is the end of the day.
     void setTime(QTime time);
 

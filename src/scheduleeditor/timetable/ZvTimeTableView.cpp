@@ -39,6 +39,10 @@ ZvTimeTableView::ZvTimeTableView(QGraphicsScene *scene, QWidget *parent)
     // The scene paints every pixel, so nothing has to be painted under it.
     viewport()->setAutoFillBackground(false);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Time table"));
+    setWhatsThis(tr("The day of the schedule, from 0 to 24 o'clock. Stages are dropped here, "
+                    "dragged, and made longer or shorter at their edges. Ctrl adds to the "
+                    "selection, and the arrow keys move what is selected."));
 
     m_noScheduleLabel->setStyleSheet(
         QStringLiteral("background-color: rgba(0,0,0,128); color: white; font-weight: bold;"));

@@ -7,6 +7,7 @@
 #include "ZvSystemInfo.h"
 
 #include <QAction>
+#include <QToolButton>
 
 namespace Zavo {
 
@@ -44,6 +45,11 @@ ScheduleToolBar::ScheduleToolBar(const QList<QAction *> &actions, QWidget *paren
         addAction(QIcon(QStringLiteral(":/images/close_black.svg")), tr("Close Stage Editor"));
     m_closeAction->setObjectName(QLatin1String(CloseStage));
     m_closeAction->setToolTip(tr("Close Schedule Editor"));
+    m_closeAction->setStatusTip(tr("Closes the schedule editor and asks about unsaved channels"));
+    m_closeAction->setWhatsThis(tr("Closes the schedule editor. You are asked about each channel "
+                                   "with changes that are not saved."));
+    if (auto *more = findChild<QToolButton *>(QLatin1String(WorkspaceName::ToolBarExtension)))
+        more->setAccessibleName(tr("More commands"));
 }
 
 // Borrowed actions may have died before their tool bar, so only those that it still shows are

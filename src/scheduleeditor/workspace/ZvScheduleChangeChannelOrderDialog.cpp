@@ -33,7 +33,9 @@ ZvScheduleChangeChannelOrderDialog::ZvScheduleChangeChannelOrderDialog(
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("You can change the channel order."), this));
     layout->addWidget(createChannelLabel());
-    layout->addWidget(new QLabel(tr("Move To"), this));
+    auto *moveTo = new QLabel(tr("Move To"), this);
+    moveTo->setBuddy(m_orderComboBox);
+    layout->addWidget(moveTo);
     layout->addWidget(m_orderComboBox);
     layout->addWidget(note);
     layout->addSpacerItem(new QSpacerItem(OrderDialogSpacer, OrderDialogSpacer,

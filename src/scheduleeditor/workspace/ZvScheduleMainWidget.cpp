@@ -16,6 +16,7 @@
 #include <QEvent>
 #include <QGraphicsScene>
 #include <QMenu>
+#include <QTabBar>
 #include <QTimer>
 #include <QUndoGroup>
 #include <QVBoxLayout>
@@ -75,6 +76,8 @@ ZvScheduleTabWidget *ZvScheduleMainWidget::createTabWidget()
     auto *tabWidget = new ZvScheduleTabWidget(this);
     tabWidget->setObjectName(QLatin1String(WorkspaceName::TabWidget));
     tabWidget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    tabWidget->setAccessibleName(tr("Channels"));
+    tabWidget->tabBar()->setAccessibleName(tr("Channels"));
     tabWidget->setMovable(true);
     tabWidget->setContextMenuPolicy(Qt::CustomContextMenu);
     // clang-format off

@@ -158,6 +158,9 @@ void ZvScheduleMainWidget::onTabWidgetContextMenuRequested(const QPoint &pos)
     QAction *rename =
         menu->addAction(tr("Change Channel &Name..."), m_tabWidget, SLOT(editTabNameRequested()));
     rename->setShortcut(Qt::Key_F2);
+    rename->setStatusTip(tr("Changes the name of the channel in its tab"));
+    rename->setWhatsThis(tr("Opens the name in the tab for editing. Enter takes the new name over. "
+                            "Two channels cannot have the same name."));
     rename->setObjectName(QLatin1String(ActionName::ChangeChannelName));
     const QStringList names = {QLatin1String(ActionName::Undo), QLatin1String(ActionName::Redo)};
     const QList<QAction *> shared = ZvScheduleCommon::actionsByObjectName(m_editMenu, names);

@@ -149,6 +149,7 @@ void ZvScheduleTabWidget::editTabNameRequested()
     editor->resize(rect.size());
     editor->setInitialText(title);
     editor->setToolTip(title);
+    editor->setAccessibleName(tr("Name of the channel"));
     // clang-format off
     connect(editor, SIGNAL(editingFinished(QObject*)), this, SLOT(editingTabNameFinished(QObject*)));
     // clang-format on
