@@ -335,14 +335,14 @@ void ZvScheduleEditor::action_deselectAll()
 
 void ZvScheduleEditor::action_undo()
 {
-    if (QUndoStack *stack = m_mainWidget ? m_mainWidget->undoGroup()->activeStack() : nullptr)
-        stack->undo();
+    if (m_mainWidget)
+        m_mainWidget->undo();
 }
 
 void ZvScheduleEditor::action_redo()
 {
-    if (QUndoStack *stack = m_mainWidget ? m_mainWidget->undoGroup()->activeStack() : nullptr)
-        stack->redo();
+    if (m_mainWidget)
+        m_mainWidget->redo();
 }
 
 // Requests to the host

@@ -161,6 +161,12 @@ TimeTablePage::SelectedType TimeTablePage::hasSelectedItems() const
     return possible;
 }
 
+void TimeTablePage::completeMove()
+{
+    if (m_scene)
+        m_view->completeMove();
+}
+
 void TimeTablePage::insertTimeItems(const QList<ZvTime> &times)
 {
     if (m_scene)
@@ -351,12 +357,14 @@ void TimeTablePage::changeTimeItemTimes(const QMap<int, ZvTime> &itemTimes)
 
 void TimeTablePage::selectPreviousTimeItem()
 {
+    completeMove();
     if (ZvTimeTableTimeZoneItem *zone = timeZone())
         zone->selectPreviousTimeItem();
 }
 
 void TimeTablePage::selectNextTimeItem()
 {
+    completeMove();
     if (ZvTimeTableTimeZoneItem *zone = timeZone())
         zone->selectNextTimeItem();
 }

@@ -60,6 +60,10 @@ public:
     /// strip.
     bool isPastingPossible() const;
 
+    /// Reports a move that is still under way, which what comes next would else lose: that changes
+    /// the selection, the table or the history.
+    void completeMove();
+
     void insertTimeItems(const QList<ZvTime> &times);
     void removeTimeItems(const QList<ZvTime> &times);
     /// Removes the selected bands and returns their records.

@@ -252,6 +252,14 @@ void ZvTimeTableScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         Q_EMIT mousePressingMoved();
 }
 
+void ZvTimeTableScene::completeDrag()
+{
+    if (m_dragMode == NoDrag)
+        return;
+    m_dragMode = NoDrag;
+    Q_EMIT mousePressingMoved();
+}
+
 bool ZvTimeTableScene::moveSelectedTimeItems(const QPointF &current, const QPointF &last)
 {
     const double dy = current.y() - last.y();

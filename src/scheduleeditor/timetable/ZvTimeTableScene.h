@@ -54,6 +54,9 @@ public:
     /// Moves the selected bands as one block by the y distance from @p last to @p current, up to
     /// the first obstacle. False if there was nothing to do.
     bool moveSelectedTimeItems(const QPointF &current, const QPointF &last);
+    /// Ends a drag as if the button were released here; up to the next press the mouse moves
+    /// nothing more.
+    void completeDrag();
 
 public Q_SLOTS:
     /// Takes over the selection and reports it, unless disabled.

@@ -116,21 +116,51 @@ bool ZvTimeTableView::isMovingKey(const QKeyEvent *event) const
     return timeTable && !timeTable->selectedTimeItems().isEmpty();
 }
 
-// A move by keys is reported a moment after the last of them. Whatever comes before that may change
-// the selection or the history, and the move has to be in it by then.
-bool ZvTimeTableView::event(QEvent *event)
+// A move is reported when it ends, one by keys a moment after the last of them. Whatever comes
+// before that may change the selection or the history, and the move has to be in it by then.
+void ZvTimeTableView::completeMove()
 {
-    if (event->type() == QEvent::ShortcutOverride && m_isMovingByKey &&
-        !isMovingKey(static_cast<QKeyEvent *>(event)))
-        onMovingKeyCheckingTimerEvent();
-    return QGraphicsView::event(event);
+    completeKeyMove();
+    if (ZvTimeTableScene *timeTable = timeTableScene())
+        timeTable->completeDrag();
 }
 
-void ZvTimeTableView::mousePressEvent(QMouseEvent *event)
+void ZvTimeTableView::completeKeyMove()
 {
     if (m_isMovingByKey)
         onMovingKeyCheckingTimerEvent();
-    QGraphicsView::mousePressEvent(event);
+}
+
+bool ZvTimeTableView::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && !isMovingKey(static_cast<QKeyEvent *>(event)))
+        completeKeyMove();
+    return QGraphicsView::event(event);
+}
+
+// A press during a drag is that of another button. The right one leaves the selection and the drag
+// as they are.
+bool ZvTimeTableView::viewportEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        completeKeyMove();
+        if (static_cast<QMouseEvent *>(event)->button() != Qt::RightButton)
+            completeMove();
+        break;
+    case QEvent::MouseButtonRelease:
+    case QEvent::Drop:
+        completeKeyMove();
+        break;
+    case QEvent::MouseMove:
+        if (static_cast<QMouseEvent *>(event)->buttons() != Qt::NoButton)
+            completeKeyMove();
+        break;
+    default:
+        break;
+    }
+    return QGraphicsView::viewportEvent(event);
 }
 
 void ZvTimeTableView::keyPressEvent(QKeyEvent *event)
@@ -161,9 +191,15 @@ void ZvTimeTableView::focusOutEvent(QFocusEvent *event)
 {
     // The release of a held key goes to whoever has the focus then; the move is complete all the
     // same.
-    if (m_isMovingByKey)
-        m_movingKeyTimer.start();
+    completeKeyMove();
     QGraphicsView::focusOutEvent(event);
+}
+
+// The page of another channel comes, whose history is not for what is moved here.
+void ZvTimeTableView::hideEvent(QHideEvent *event)
+{
+    completeMove();
+    QGraphicsView::hideEvent(event);
 }
 
 void ZvTimeTableView::onMovingKeyCheckingTimerEvent()

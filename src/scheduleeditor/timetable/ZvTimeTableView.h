@@ -29,6 +29,8 @@ public:
     void setNoScheduleLabelVisible(bool visible);
     /// Centres on @p item unless it is in sight as a whole.
     void ensureItemVisible(QGraphicsItem *item);
+    /// Reports a move by keys or mouse now that is still under way.
+    void completeMove();
 
 public Q_SLOTS:
     /// Vertical zoom: screen pixels a minute.
@@ -39,13 +41,14 @@ Q_SIGNALS:
     /// The time under the cursor changed; "--:--:--" outside the day.
     void timeStringChanged(QString timeString);
     void horizontalScrollBarValueChanged();
-    /// 100 ms after the last release of an arrow key: a key move is complete.
+    /// A key move is complete: 100 ms after the last release of an arrow key, or earlier if
+    /// something else is about to happen.
     void keyReleasedWithItemMoved();
     void requestContextMenu(QPoint pos);
 
 protected:
     bool event(QEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -54,6 +57,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private Q_SLOTS:
     void onHrozontalScrollBarValueChanged(int value);
@@ -62,6 +66,7 @@ private Q_SLOTS:
 
 private:
     ZvTimeTableScene *timeTableScene() const;
+    void completeKeyMove();
     bool isMovingKey(const QKeyEvent *event) const;
 
     QString m_timeString;

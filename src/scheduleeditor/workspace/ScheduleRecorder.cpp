@@ -65,7 +65,7 @@ void ScheduleRecorder::push(QUndoCommand *command)
 
 void ScheduleRecorder::deleteSelectedItems()
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    ZvScheduleWorkingArea *area = areaAtRest();
     if (!area)
         return;
     const QList<ZvTime> times = area->deleteSelectedItems();
@@ -76,7 +76,7 @@ void ScheduleRecorder::deleteSelectedItems()
 
 bool ScheduleRecorder::cutSelectedItems()
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    ZvScheduleWorkingArea *area = areaAtRest();
     if (!area)
         return false;
     const QList<ZvTime> times = area->cutSelectedItems();
@@ -86,15 +86,27 @@ bool ScheduleRecorder::cutSelectedItems()
     return true;
 }
 
+void ScheduleRecorder::undo()
+{
+    if (areaAtRest() && undoGroup()->activeStack())
+        undoGroup()->activeStack()->undo();
+}
+
+void ScheduleRecorder::redo()
+{
+    if (areaAtRest() && undoGroup()->activeStack())
+        undoGroup()->activeStack()->redo();
+}
+
 void ScheduleRecorder::createScheduleByCurrentInfoWithUndo()
 {
-    if (const ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (const ZvScheduleWorkingArea *area = areaAtRest())
         createScheduleWithUndo({area->currentScheduleInfo()});
 }
 
 void ScheduleRecorder::createScheduleWithUndo(const QList<ZvScheduleBasicInfo> &list)
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    ZvScheduleWorkingArea *area = areaAtRest();
     if (!area)
         return;
     // An undo removes what the command names, so it names nothing that was there before.
@@ -108,7 +120,7 @@ void ScheduleRecorder::createScheduleWithUndo(const QList<ZvScheduleBasicInfo> &
 
 void ScheduleRecorder::removeScheduleByCurrentInfoWithUndo()
 {
-    const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
+    const QPointer<ZvScheduleWorkingArea> area = areaAtRest();
     if (!area ||
         !confirmDelete(tr("the schedule of %1").arg(area->currentScheduleName()), QString()))
         return;
@@ -124,7 +136,7 @@ void ScheduleRecorder::removeScheduleByCurrentInfoWithUndo()
 void ScheduleRecorder::removeScheduleWithUndo(const QList<ZvScheduleBasicInfo> &list,
                                               bool showConfirm)
 {
-    const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
+    const QPointer<ZvScheduleWorkingArea> area = areaAtRest();
     if (!area)
         return;
     if (showConfirm) {
@@ -146,7 +158,7 @@ void ScheduleRecorder::removeScheduleWithUndo(const QList<ZvScheduleBasicInfo> &
 void ScheduleRecorder::removeAndInsertScheduleWithUndo(const QList<ZvScheduleBasicInfo> &removeList,
                                                        const QList<ZvSchedule> &insertList)
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    ZvScheduleWorkingArea *area = areaAtRest();
     if (!area)
         return;
     const QList<ZvSchedule> removed = area->schedules(removeList);
@@ -160,7 +172,7 @@ void ScheduleRecorder::removeAndInsertScheduleWithUndo(const QList<ZvScheduleBas
 void ScheduleRecorder::onResetTimeTable(const QString &newDefaultStageName,
                                         const QList<ZvTime> &newTimes)
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         push(new UndoCommand::ResetTimeTable(area->defaultStageName(), newDefaultStageName,
                                              area->currentTimes(), newTimes,
                                              area->currentScheduleInfo(), area));
@@ -190,7 +202,7 @@ void ScheduleRecorder::onTimeItemPasted(const QList<ZvTime> &removedTimes,
 void ScheduleRecorder::onDefaultStageNameChangedWithUndo(const QString &oldName,
                                                          const QString &newName)
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         push(new UndoCommand::ChangeDefaultStageName(oldName, newName, area->currentScheduleInfo(),
                                                      area));
 }

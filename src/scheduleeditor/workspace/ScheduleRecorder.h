@@ -26,6 +26,10 @@ public:
     bool cutSelectedItems() override;
 
 public Q_SLOTS:
+    /// The last step of the current page; a move that is still under way is one.
+    void undo();
+    void redo();
+
     void createScheduleByCurrentInfoWithUndo();
     /// Schedules that exist are passed over. An empty list is no command.
     void createScheduleWithUndo(const QList<ZvScheduleBasicInfo> &list);

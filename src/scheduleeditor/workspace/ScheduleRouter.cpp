@@ -93,41 +93,49 @@ void ScheduleRouter::showWorkingArea(ZvScheduleWorkingArea *area)
     onCurrentScheduleEnabledChanged(area->isCurrentScheduleEnabled());
 }
 
+ZvScheduleWorkingArea *ScheduleRouter::areaAtRest() const
+{
+    ZvScheduleWorkingArea *area = currentWorkingArea();
+    if (area)
+        area->completeMove();
+    return area;
+}
+
 // Commands to the page of the current tab
 
 void ScheduleRouter::switchToDefaultSchedule()
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->switchToDefaultSchedule();
 }
 
 void ScheduleRouter::switchToDayOfWeekSchedule(Qt::DayOfWeek day)
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->switchToWeekDaySchedule(day);
 }
 
 void ScheduleRouter::switchToDateSchedule(const QDate &date)
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->switchToDateSchedule(date);
 }
 
 void ScheduleRouter::createScheduleByCurrentInfo()
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->createScheduleByCurrentInfo();
 }
 
 void ScheduleRouter::removeScheduleByCurrentInfo()
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->removeScheduleByCurrentInfo();
 }
 
 void ScheduleRouter::setDefaultStageToCurrentSchedule(const QString &name)
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->setDefaultStageName(name);
 }
 
@@ -171,7 +179,7 @@ ZvScheduleCommonInterface::SelectedType ScheduleRouter::hasSelectedItems() const
 
 bool ScheduleRouter::copySelectedItems()
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    ZvScheduleWorkingArea *area = areaAtRest();
     return area && area->copySelectedItems();
 }
 
@@ -183,19 +191,19 @@ bool ScheduleRouter::isPastingPossible() const
 
 bool ScheduleRouter::pasteItems()
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    ZvScheduleWorkingArea *area = areaAtRest();
     return area && area->pasteItems();
 }
 
 void ScheduleRouter::selectAllItems()
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->selectAllItems();
 }
 
 void ScheduleRouter::deselectAllItems()
 {
-    if (ZvScheduleWorkingArea *area = currentWorkingArea())
+    if (ZvScheduleWorkingArea *area = areaAtRest())
         area->deselectAllItems();
 }
 

@@ -115,6 +115,10 @@ Q_SIGNALS:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
 
+    /// The page that a command goes to, or null. A move that is still under way in it is recorded
+    /// first.
+    ZvScheduleWorkingArea *areaAtRest() const;
+
     /// The handed-over actions that still exist.
     QList<QAction *> actionList() const;
 

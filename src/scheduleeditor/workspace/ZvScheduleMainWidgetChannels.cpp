@@ -118,6 +118,7 @@ void ZvScheduleMainWidget::changeChannelNameWithUndo(int tabIndex, const QString
     const QString refusal = ChannelNaming::refusal(name, namesOfOtherTabs(tabIndex));
     m_tabWidget->setCurrentIndex(tabIndex);
     if (refusal.isEmpty()) {
+        area->completeMove();
         undoGroup()->activeStack()->push(
             new UndoCommand::ChangeChannelName(name, area->channelName(), area));
     } else {

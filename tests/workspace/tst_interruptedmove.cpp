@@ -1,0 +1,254 @@
+#include "workspace/ScheduleRecorder.h"
+
+#include "../services/TwoTabs.h"
+#include "MessageBoxAnswer.h"
+#include "SceneMouse.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Zavo;
+using namespace ZavoTest;
+
+using Interruption = void (*)(const TwoTabs &);
+Q_DECLARE_METATYPE(Interruption)
+
+namespace {
+
+/// As long as a move by keys may stay open, and longer.
+void waitForKeyMove()
+{
+    QTest::qWait(150);
+}
+
+void showSecond(const TwoTabs &tabs)
+{
+    tabs.main.tabs()->setCurrentIndex(1);
+}
+
+void showDefaultSchedule(const TwoTabs &tabs)
+{
+    tabs.widget()->switchToDefaultSchedule();
+}
+
+void selectAll(const TwoTabs &tabs)
+{
+    tabs.widget()->selectAllItems();
+}
+
+void selectNext(const TwoTabs &tabs)
+{
+    tabs.first()->selectNextTimeItem();
+}
+
+void deselectAll(const TwoTabs &tabs)
+{
+    tabs.widget()->deselectAllItems();
+}
+
+void createTuesday(const TwoTabs &tabs)
+{
+    tabs.widget()->createScheduleWithUndo({tuesdayInfo});
+}
+
+void removeSchedule(const TwoTabs &tabs)
+{
+    tabs.widget()->removeScheduleWithUndo({mondayInfo}, false);
+}
+
+void changeDefaultStage(const TwoTabs &tabs)
+{
+    tabs.widget()->setDefaultStageToCurrentSchedule(QString());
+}
+
+void cut(const TwoTabs &tabs)
+{
+    tabs.widget()->cutSelectedItems();
+}
+
+void rename(const TwoTabs &tabs)
+{
+    tabs.widget()->changeChannelNameWithUndo(0, QStringLiteral("Third"));
+}
+
+} // namespace
+
+/// A band is on its way, by a held key or button, when something else happens to its page. The move
+/// is a step of undo of its own, before whatever comes.
+class tst_InterruptedMove : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keys_data();
+    void keys();
+    void drag_data();
+    void drag();
+    void undoOfAMoveUnderWay_data();
+    void undoOfAMoveUnderWay();
+    void otherTabKeepsItsHistory();
+    void pressWithoutAMoveIsNoStep();
+    void mouseMovesNothingAfterTheInterruption();
+
+private:
+    void interruptions();
+};
+
+void tst_InterruptedMove::interruptions()
+{
+    QTest::addColumn<Interruption>("interrupt");
+    QTest::newRow("other tab") << Interruption(showSecond);
+    QTest::newRow("other schedule") << Interruption(showDefaultSchedule);
+    QTest::newRow("select all") << Interruption(selectAll);
+    QTest::newRow("select next") << Interruption(selectNext);
+    QTest::newRow("deselect all") << Interruption(deselectAll);
+    QTest::newRow("create") << Interruption(createTuesday);
+    QTest::newRow("remove") << Interruption(removeSchedule);
+    QTest::newRow("default stage") << Interruption(changeDefaultStage);
+    QTest::newRow("cut") << Interruption(cut);
+    QTest::newRow("rename") << Interruption(rename);
+}
+
+void tst_InterruptedMove::keys_data()
+{
+    interruptions();
+}
+
+void tst_InterruptedMove::keys()
+{
+    QFETCH(Interruption, interrupt);
+    const TwoTabs tabs;
+    const QStringList before = tabs.state();
+    QTest::keyPress(tabs.view(), Qt::Key_Down);
+    const QList<ZvTime> moved = tabs.first()->currentTimes();
+    QVERIFY(moved != mondayBands);
+    interrupt(tabs);
+    waitForKeyMove();
+    QVERIFY(tabs.first()->undoStack()->count() > 0);
+    QVERIFY(!tabs.second()->undoStack()->count());
+
+    tabs.first()->undoStack()->setIndex(1);
+    tabs.first()->switchToScheduleInfo(mondayInfo, false);
+    QCOMPARE(tabs.first()->currentTimes(), moved);
+    tabs.first()->undoStack()->undo();
+    tabs.first()->setDefaultStageName(QStringLiteral("mon.xml"));
+    QCOMPARE(tabs.state(), before);
+}
+
+void tst_InterruptedMove::drag_data()
+{
+    interruptions();
+}
+
+void tst_InterruptedMove::drag()
+{
+    QFETCH(Interruption, interrupt);
+    const TwoTabs tabs;
+    const QStringList before = tabs.state();
+    tabs.view()->centerOn(QPointF(180.0, yOf("10:30:00")));
+    SceneMouse mouse(tabs.view());
+    mouse.press(QPointF(180.0, yOf("10:30:00")));
+    mouse.moveTo(QPointF(180.0, yOf("11:30:00")));
+    const QList<ZvTime> moved = tabs.first()->currentTimes();
+    QVERIFY(moved != mondayBands);
+    interrupt(tabs);
+    mouse.moveTo(QPointF(180.0, yOf("12:30:00")));
+    mouse.release();
+    QVERIFY(tabs.first()->undoStack()->count() > 0);
+    QVERIFY(!tabs.second()->undoStack()->count());
+
+    tabs.first()->undoStack()->setIndex(1);
+    tabs.first()->switchToScheduleInfo(mondayInfo, false);
+    QCOMPARE(tabs.first()->currentTimes(), moved);
+    tabs.first()->undoStack()->undo();
+    tabs.first()->setDefaultStageName(QStringLiteral("mon.xml"));
+    QCOMPARE(tabs.state(), before);
+}
+
+void tst_InterruptedMove::undoOfAMoveUnderWay_data()
+{
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("key") << false;
+    QTest::newRow("mouse") << true;
+}
+
+void tst_InterruptedMove::undoOfAMoveUnderWay()
+{
+    QFETCH(bool, byMouse);
+    const TwoTabs tabs;
+    tabs.select({0});
+    tabs.widget()->deleteSelectedItems();
+    const QStringList deleted = tabs.state();
+    tabs.select({0});
+    SceneMouse mouse(tabs.view());
+    if (byMouse) {
+        tabs.view()->centerOn(QPointF(180.0, yOf("10:30:00")));
+        mouse.press(QPointF(180.0, yOf("10:30:00")));
+        mouse.moveTo(QPointF(180.0, yOf("09:00:00")));
+    } else {
+        QTest::keyPress(tabs.view(), Qt::Key_Up);
+    }
+    const QStringList moved = tabs.state();
+    QVERIFY(moved != deleted);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.state(), deleted);
+    tabs.widget()->redo();
+    QCOMPARE(tabs.state(), moved);
+    tabs.widget()->undo();
+    tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+    QCOMPARE(tabs.first()->undoStack()->count(), 2);
+}
+
+// Both channels have a band in the place of the one that moves: what is recorded for the first must
+// not come over the second.
+void tst_InterruptedMove::otherTabKeepsItsHistory()
+{
+    const TwoTabs tabs;
+    tabs.second()->insertSchedule({scheduleOf(mondayInfo, QString(), otherBands)});
+    tabs.first()->undoStack()->clear();
+    QTest::keyPress(tabs.view(), Qt::Key_Down);
+    QTest::keyRelease(tabs.view(), Qt::Key_Down);
+    showSecond(tabs);
+    waitForKeyMove();
+    QCOMPARE(tabs.second()->currentTimes(), otherBands);
+    QCOMPARE(tabs.second()->undoStack()->count(), 0);
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.second()->currentTimes(), otherBands);
+    tabs.main.tabs()->setCurrentIndex(0);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+}
+
+void tst_InterruptedMove::pressWithoutAMoveIsNoStep()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("10:30:00")));
+    SceneMouse mouse(tabs.view());
+    mouse.press(QPointF(180.0, yOf("10:30:00")));
+    tabs.widget()->copySelectedItems();
+    showDefaultSchedule(tabs);
+    mouse.release();
+    QCOMPARE(tabs.first()->undoStack()->count(), 0);
+}
+
+void tst_InterruptedMove::mouseMovesNothingAfterTheInterruption()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("10:30:00")));
+    SceneMouse mouse(tabs.view());
+    mouse.press(QPointF(180.0, yOf("10:30:00")));
+    mouse.moveTo(QPointF(180.0, yOf("11:30:00")));
+    tabs.widget()->undo();
+    mouse.moveTo(QPointF(180.0, yOf("12:30:00")));
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+    mouse.release();
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
+    mouse.drag(QPointF(180.0, yOf("10:30:00")), QPointF(180.0, yOf("11:30:00")));
+    QVERIFY(tabs.first()->currentTimes() != mondayBands);
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
+}
+
+QTEST_MAIN(tst_InterruptedMove)
+#include "tst_interruptedmove.moc"
