@@ -34,8 +34,8 @@ ZVCORE_EXPORT bool parse(const QByteArray &bytes, ChannelRecord *record);
 /// person what is wrong with a file.
 ZVCORE_EXPORT bool parseAsItStands(const QByteArray &bytes, ChannelRecord *record);
 
-/// False, with @p bytes untouched, if parse() would not give back the record to the letter and to
-/// the millisecond.
+/// False, with @p bytes untouched, if parse() would not give back the record, put in order, to the
+/// letter and to the millisecond.
 ZVCORE_EXPORT bool serialize(const ChannelRecord &record, QByteArray *bytes);
 
 } // namespace ChannelFile

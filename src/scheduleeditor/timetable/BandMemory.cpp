@@ -10,7 +10,7 @@ namespace Zavo {
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__SANITIZE_ADDRESS__) || defined(ZAVO_SANITIZE)
 constexpr bool Kept = false; // memory that is used again hides the use of a dead band
 #else
 constexpr bool Kept = true;
