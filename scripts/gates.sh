@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# All that a change has to pass, cheapest first after the tests: tests, format, growth, sanitizers,
-# lint.
+# All that a change has to pass, cheapest first after the tests: tests, format, growth, fuzz,
+# sanitizers, lint.
 # Every gate runs even if an earlier one failed; the last lines say which did.
 set -uo pipefail
 cd "$(dirname "$0")/.."
@@ -29,6 +29,7 @@ logged() {
 gate tests logged build/gate-tests.log ./test
 gate format scripts/check-format.sh
 gate growth scripts/check-growth.sh
+gate fuzz scripts/fuzz.sh 20
 gate sanitizers logged build/gate-sanitizers.log scripts/sanitize.sh
 gate lint scripts/lint.sh
 

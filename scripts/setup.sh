@@ -24,7 +24,7 @@ if [[ "$group" == test || "$group" == lint ]]; then
   )
 fi
 if [[ "$group" == lint ]]; then
-  packages+=(clang-14 clang-format-14 clang-tidy-14 clazy valgrind)
+  packages+=(clang-14 libclang-rt-14-dev clang-format-14 clang-tidy-14 clazy valgrind)
 fi
 
 if ! command -v dpkg-query >/dev/null; then
