@@ -283,6 +283,11 @@ void tst_TabDragging::flicks()
     main.moveTo(-500, 2000);
     main.release();
     QCOMPARE(main.tabTexts(), Names);
+    // Onto the right half of the first tab in one go.
+    main.press(4);
+    main.moveTo(main.bar()->tabRect(0).right() + main.bar()->tabRect(4).width() / 2 - 4, 2000);
+    main.release();
+    QCOMPARE(main.ids(), (QList<int>{0, 4, 1, 2, 3, 5}));
     main.drag(2, 5, 70);
     QCOMPARE(main.ids().first(), 0);
     QCOMPARE(main.faultInMemory(), QString());

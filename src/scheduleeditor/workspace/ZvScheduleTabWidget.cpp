@@ -4,6 +4,7 @@
 #include "workspace/ZvScheduleRenameTabWidget.h"
 #include "workspace/ZvTabBar.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QToolTip>
@@ -84,7 +85,23 @@ bool ZvScheduleTabWidget::watchDrag(const QMouseEvent &event)
 {
     if (m_pressed && event.buttons() == Qt::NoButton)
         finishDrag();
-    return !m_pressed || mayDragTo(event);
+    if (!m_pressed)
+        return true;
+    if (!mayDragTo(event))
+        return false;
+    stopBesideFirstTab(event);
+    return true;
+}
+
+// The bar takes a tab that is flung over several others past the one under its edge, too.
+void ZvScheduleTabWidget::stopBesideFirstTab(const QMouseEvent &event)
+{
+    const int left = event.x() + m_dragOffset;
+    if (currentIndex() <= 1 || left > m_firstTabRect.right())
+        return;
+    const QPoint beside(m_firstTabRect.right() + 1 - m_dragOffset, event.y());
+    QMouseEvent step(QEvent::MouseMove, beside, event.button(), event.buttons(), event.modifiers());
+    QCoreApplication::sendEvent(tabBar(), &step);
 }
 
 // The dragged tab stops when its left edge reaches the middle of the first tab.

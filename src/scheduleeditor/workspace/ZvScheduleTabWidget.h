@@ -65,6 +65,7 @@ private:
     void pressTabBar(const QMouseEvent &event);
     bool watchDrag(const QMouseEvent &event);
     bool mayDragTo(const QMouseEvent &event) const;
+    void stopBesideFirstTab(const QMouseEvent &event);
     void finishDrag();
 
     bool m_movingTabs = false;
