@@ -4,31 +4,18 @@
 
 #include "HostWindow.h"
 
-#include "ZvSystemInfo.h"
-#include "domain/ActionNames.h"
-#include "editor/ZvScheduleEditor.h"
 #include "timetable/ZvScheduleWorkingArea.h"
-#include "timetable/ZvTimeTableTimeItem.h"
-#include "timetable/ZvTimeTableTimeZoneItem.h"
-#include "timetable/ZvTimeTableView.h"
 #include "workspace/ZvScheduleTabWidget.h"
 
-#include "DragGesture.h"
-
 #include <QAbstractScrollArea>
-#include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QDialog>
-#include <QDockWidget>
-#include <QMenu>
-#include <QTabBar>
 #include <QUndoStack>
-#include <QWheelEvent>
 #include <QWindow>
 #include <QtTest>
 
 #include <typeinfo>
+#include <utility>
 
 using namespace Zavo;
 
@@ -39,34 +26,7 @@ namespace {
 constexpr int AnswerInterval = 2;  // ms
 constexpr int ForcedAfter = 6;     // events in one dialog
 constexpr int DiskCheckEvery = 20; // events
-QList<QAction *> actionsOf(const QList<QMenu *> &menus)
-{
-    QList<QAction *> all;
-    for (const QMenu *menu : menus) {
-        const QList<QAction *> actions = menu->actions();
-        for (QAction *action : actions) {
-            if (action->menu())
-                all.append(actionsOf({action->menu()}));
-            else if (!action->isSeparator())
-                all.append(action);
-        }
-    }
-    return all;
-}
-
-// A path that is typed or chosen there may lie outside of the data folder.
-bool reachesBeyondData(const QWidget *widget)
-{
-    return widget->inherits("QFileDialog") || widget->inherits("Zavo::ExportDialog") ||
-           widget->inherits("Zavo::UploadDialog") || widget->inherits("Zavo::UploadTargetDialog") ||
-           widget->inherits("Zavo::ConfigurationDialog");
-}
-
-QString nameOf(const QWidget *widget)
-{
-    return QStringLiteral("%1 %2").arg(QLatin1String(widget->metaObject()->className()),
-                                       widget->objectName());
-}
+constexpr int ReportDelay = 150;   // ms, longer than a move by keys takes to be reported
 
 QString commandName(const QUndoStack *stack, int index)
 {
@@ -76,8 +36,23 @@ QString commandName(const QUndoStack *stack, int index)
 
 } // namespace
 
+// A path that is typed or chosen there may lie outside of the data folder.
+bool Monkey::reachesBeyondData(const QWidget *widget)
+{
+    return widget->inherits("QFileDialog") || widget->inherits("Zavo::ExportDialog") ||
+           widget->inherits("Zavo::UploadDialog") || widget->inherits("Zavo::UploadTargetDialog") ||
+           widget->inherits("Zavo::ConfigurationDialog");
+}
+
+QString Monkey::describe(const QWidget *widget)
+{
+    return QStringLiteral("%1 %2").arg(QLatin1String(widget->metaObject()->className()),
+                                       widget->objectName());
+}
+
 Monkey::Monkey(unsigned seed, int eventCount, std::FILE *log)
     : m_choice(seed)
+    , m_dialogChoice(seed + 1)
     , m_checks(&m_house)
     , m_clipboard(&m_choice)
     , m_eventsLeft(eventCount)
@@ -112,6 +87,11 @@ void Monkey::check()
 {
     QStringList wrong;
     if (const ZvScheduleWorkingArea *area = m_house.currentArea()) {
+        if (MonkeyChecks::placeInHistory(area) == m_lastPlace &&
+            MonkeyChecks::tableOf(area) != m_lastTable)
+            QTest::qWait(ReportDelay);
+    }
+    if (const ZvScheduleWorkingArea *area = m_house.currentArea()) {
         const QString place = MonkeyChecks::placeInHistory(area);
         const QString table = MonkeyChecks::tableOf(area);
         if (place == m_lastPlace && table != m_lastTable) {
@@ -130,7 +110,7 @@ void Monkey::check()
         m_lastPlace = place;
     }
     if (!m_house.isClosed())
-        wrong = m_checks.wrongInWindow();
+        wrong.append(m_checks.wrongInWindow());
     if (m_events % DiskCheckEvery == 0 || m_house.isClosed())
         wrong.append(m_checks.wrongOnDisk());
     if (!wrong.isEmpty())
@@ -180,6 +160,16 @@ void Monkey::answer()
     QWidget *asked = popup ? popup : QApplication::activeModalWidget();
     if (!asked)
         return;
+    // How often this comes is a matter of time; what follows the dialog must not depend on it.
+    if (m_answerDepth++ == 0)
+        std::swap(m_choice, m_dialogChoice);
+    answer(asked);
+    if (--m_answerDepth == 0)
+        std::swap(m_choice, m_dialogChoice);
+}
+
+void Monkey::answer(QWidget *asked)
+{
     if (asked != m_asked) {
         m_asked = asked;
         m_playedWithAsked = 0;
@@ -189,7 +179,7 @@ void Monkey::answer()
         useDialog(asked);
         return;
     }
-    note(QStringLiteral("leave ") + nameOf(asked));
+    note(QStringLiteral("leave ") + describe(asked));
     if (auto *dialog = qobject_cast<QDialog *>(asked))
         dialog->reject();
     else
@@ -204,7 +194,7 @@ void Monkey::useDialog(QWidget *dialog)
     QWindow *window = dialog->windowHandle();
     if (window && m_choice.chance(35)) {
         const Qt::Key key = m_choice.from(keys);
-        note(QStringLiteral("key %1 in %2").arg(key, 0, 16).arg(nameOf(dialog)));
+        note(QStringLiteral("key %1 in %2").arg(key, 0, 16).arg(describe(dialog)));
         strike(window, key);
     } else if (m_choice.chance(20)) {
         type();
@@ -264,51 +254,53 @@ void Monkey::moveMouse(QWidget *widget, const QPoint &position)
         QTest::mouseMove(window, widget->mapTo(widget->window(), position));
 }
 
-void Monkey::press(QWidget *widget, const QPoint &position, bool down)
+void Monkey::press(QWidget *widget, const QPoint &position, const Hand &hand, bool down)
 {
     QWindow *window = widget->window()->windowHandle();
     if (!window)
         return;
-    const QPoint place = widget->mapTo(widget->window(), position);
+    // Nothing is told of a release outside of the window, which a grab brings to it elsewhere.
+    const QRect inside = widget->window()->rect();
+    QPoint place = widget->mapTo(widget->window(), position);
+    place = {qBound(inside.left(), place.x(), inside.right()),
+             qBound(inside.top(), place.y(), inside.bottom())};
     if (down)
-        QTest::mousePress(window, m_button, m_modifiers, place);
+        QTest::mousePress(window, hand.button, hand.modifiers, place);
     else
-        QTest::mouseRelease(window, m_button, m_modifiers, place);
+        QTest::mouseRelease(window, hand.button, hand.modifiers, place);
 }
 
 void Monkey::click(QWidget *widget, const QPoint &position)
 {
-    m_button = m_choice.chance(88) ? Qt::LeftButton : Qt::RightButton;
-    m_modifiers = someModifiers();
+    const Hand hand{m_choice.chance(88) ? Qt::LeftButton : Qt::RightButton, someModifiers()};
     note(QStringLiteral("click %1 at %2,%3 of %4")
-             .arg(m_button)
+             .arg(hand.button)
              .arg(position.x())
              .arg(position.y())
-             .arg(nameOf(widget)));
+             .arg(describe(widget)));
     const QPointer<QWidget> live(widget);
     moveMouse(widget, position);
     if (live)
-        press(widget, position, true);
+        press(widget, position, hand, true);
     if (live)
-        press(widget, position, false);
+        press(widget, position, hand, false);
     else if (m_house.window())
-        press(m_house.window(), position, false);
+        press(m_house.window(), position, hand, false);
     if (live && m_choice.chance(15)) {
-        press(widget, position, true);
+        press(widget, position, hand, true);
         if (live)
-            press(widget, position, false);
+            press(widget, position, hand, false);
     }
 }
 
 void Monkey::drag(QWidget *widget, const QPoint &from)
 {
     const QPointer<QWidget> live(widget);
-    m_button = m_choice.chance(95) ? Qt::LeftButton : Qt::MiddleButton;
-    m_modifiers = someModifiers();
-    note(QStringLiteral("drag from %1,%2 of %3").arg(from.x()).arg(from.y()).arg(nameOf(widget)));
+    const Hand hand{m_choice.chance(95) ? Qt::LeftButton : Qt::MiddleButton, someModifiers()};
+    note(QStringLiteral("drag from %1,%2 of %3").arg(from.x()).arg(from.y()).arg(describe(widget)));
     moveMouse(widget, from);
     if (live)
-        press(widget, from, true);
+        press(widget, from, hand, true);
     QPoint place = from;
     const int moves = m_choice.between(1, 6);
     for (int i = 0; i < moves && live; ++i) {
@@ -318,241 +310,9 @@ void Monkey::drag(QWidget *widget, const QPoint &from)
     if (live && m_choice.chance(5))
         useKeys();
     if (live)
-        press(widget, place, false);
+        press(widget, place, hand, false);
     else if (m_house.window())
-        press(m_house.window(), QPoint(1, 1), false);
-}
-
-void Monkey::act()
-{
-    const int what = m_choice.below(100);
-    if (what < 28)
-        useTable();
-    else if (what < 46)
-        useMouse();
-    else if (what < 59)
-        useKeys();
-    else if (what < 62)
-        turnWheel();
-    else if (what < 64)
-        type();
-    else if (what < 69)
-        useTabs();
-    else if (what < 82)
-        triggerAction();
-    else if (what < 94)
-        dragStages();
-    else if (what < 97)
-        fillClipboard();
-    else
-        changeSurroundings();
-}
-
-void Monkey::useMouse()
-{
-    QWidget *widget = target(topLevel());
-    const QPoint place = m_choice.pointIn(widget->rect());
-    if (m_choice.chance(25))
-        drag(widget, place);
-    else if (m_choice.chance(10))
-        moveMouse(widget, place);
-    else
-        click(widget, place);
-}
-
-void Monkey::turnWheel()
-{
-    QWidget *widget = target(topLevel());
-    const QPoint place = m_choice.pointIn(widget->rect());
-    const QPoint delta(0, 120 * m_choice.between(-3, 3));
-    const Qt::KeyboardModifiers modifiers = someModifiers();
-    note(QStringLiteral("wheel %1 over %2").arg(delta.y()).arg(nameOf(widget)));
-    QWheelEvent event(place, widget->mapToGlobal(place), QPoint(), delta, Qt::NoButton, modifiers,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(widget, &event);
-}
-
-void Monkey::useKeys()
-{
-    static const QList<Qt::Key> keys = {
-        Qt::Key_Up,        Qt::Key_Down,   Qt::Key_Left,     Qt::Key_Right, Qt::Key_Home,
-        Qt::Key_End,       Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Tab,   Qt::Key_Backtab,
-        Qt::Key_Return,    Qt::Key_Enter,  Qt::Key_Escape,   Qt::Key_Space, Qt::Key_Delete,
-        Qt::Key_Backspace, Qt::Key_F2,     Qt::Key_Menu,     Qt::Key_A,     Qt::Key_C,
-        Qt::Key_D,         Qt::Key_S,      Qt::Key_V,        Qt::Key_X,     Qt::Key_Y,
-        Qt::Key_Z,         Qt::Key_Plus,   Qt::Key_Minus,    Qt::Key_F1,    Qt::Key_1};
-    QWidget *window = QApplication::activeModalWidget();
-    if (window && reachesBeyondData(window))
-        return;
-    if (!window)
-        window = m_choice.chance(85) ? m_house.window() : topLevel();
-    if (!window || !window->windowHandle())
-        return;
-    if (m_choice.chance(20)) {
-        QWidget *widget = target(window);
-        if (widget->focusPolicy() != Qt::NoFocus)
-            widget->setFocus(Qt::OtherFocusReason);
-    }
-    const Qt::Key key = m_choice.from(keys);
-    const Qt::KeyboardModifiers modifiers = someModifiers();
-    note(QStringLiteral("key %1 with %2").arg(key, 0, 16).arg(modifiers, 0, 16));
-    strike(window->windowHandle(), key, modifiers);
-}
-
-void Monkey::type()
-{
-    const QWidget *window = topLevel();
-    if (!window || !window->windowHandle())
-        return;
-    const QString text = m_clipboard.text();
-    note(QStringLiteral("type ") + text.left(20));
-    const QPointer<QWindow> live(window->windowHandle());
-    for (const QChar character : text.left(40)) {
-        if (live)
-            QTest::sendKeyEvent(QTest::Click, live, Qt::Key_unknown, character, Qt::NoModifier);
-    }
-    if (live && m_choice.chance(50))
-        strike(live, Qt::Key_Return);
-}
-
-// A place of the table: a band, the edge of one, or anywhere.
-QPoint Monkey::tablePosition()
-{
-    ZvTimeTableView *view = m_house.view();
-    const ZvTimeTableTimeZoneItem *zone = MonkeyHouse::timeZone(m_house.currentArea());
-    const QList<ZvTimeTableTimeItem *> items =
-        zone ? zone->timeItems() : QList<ZvTimeTableTimeItem *>();
-    if (items.isEmpty() || m_choice.chance(20))
-        return m_choice.pointIn(view->viewport()->rect());
-    ZvTimeTableTimeItem *item = m_choice.from(items);
-    if (m_choice.chance(60))
-        view->ensureVisible(item);
-    const QRectF rect = item->sceneBoundingRect();
-    const QList<double> heights = {rect.top(), rect.top() + 2, rect.center().y(), rect.bottom() - 2,
-                                   rect.bottom() + 1};
-    return view->mapFromScene(rect.center().x() + m_choice.between(-60, 60),
-                              m_choice.from(heights));
-}
-
-void Monkey::useTable()
-{
-    const ZvTimeTableView *view = m_house.view();
-    if (!view || !view->isVisible())
-        return;
-    if (!m_house.currentArea()->isCurrentScheduleEnabled() && m_choice.chance(50)) {
-        note(QStringLiteral("create the schedule"));
-        m_house.editor()->getAction(QLatin1String(ActionName::CreateSchedule))->trigger();
-        return;
-    }
-    const QPoint place = tablePosition();
-    if (m_choice.chance(60))
-        drag(view->viewport(), place);
-    else
-        click(view->viewport(), place);
-}
-
-void Monkey::useTabs()
-{
-    ZvScheduleTabWidget *tabs = m_house.tabs();
-    if (!tabs || tabs->count() == 0 || !tabs->isVisible())
-        return;
-    QTabBar *bar = tabs->tabBar();
-    const int index = m_choice.below(tabs->count());
-    const QPoint place = bar->tabRect(index).center();
-    if (!bar->rect().contains(place))
-        tabs->setCurrentIndex(index);
-    else if (m_choice.chance(40))
-        drag(bar, place);
-    else
-        click(bar, place);
-}
-
-void Monkey::triggerAction()
-{
-    if (!m_house.editor())
-        return;
-    const QList<QAction *> actions = actionsOf(m_house.editor()->menu());
-    QAction *action = actions.isEmpty() ? nullptr : m_choice.from(actions);
-    if (m_choice.chance(35)) {
-        const char *name = m_choice.chance(60) ? ActionName::Undo : ActionName::Redo;
-        action = m_house.editor()->getAction(QLatin1String(name));
-    }
-    if (!action || !action->isEnabled() || QApplication::activeModalWidget())
-        return;
-    static const QStringList rare = {QLatin1String(ActionName::DeleteChannelsSettings),
-                                     QLatin1String(ActionName::DeleteChannel),
-                                     QLatin1String(ActionName::DeleteSchedule), QString()};
-    if (rare.contains(action->objectName()) && m_choice.chance(85))
-        return;
-    note(QStringLiteral("action ") + action->text());
-    action->trigger();
-    QCoreApplication::processEvents();
-}
-
-void Monkey::dragStages()
-{
-    if (!m_house.window() || QApplication::activeModalWidget())
-        return;
-    const QStringList stages = m_house.stageFiles();
-    auto data = m_choice.chance(70) ? m_clipboard.files(stages) : m_clipboard.payload(stages);
-    ZvTimeTableView *view = m_house.view();
-    QWidget *widget = view && m_choice.chance(70) ? view->viewport() : target(m_house.window());
-    if (!widget->acceptDrops())
-        return;
-    const bool onTable = view && widget == view->viewport();
-    QPoint place = onTable ? tablePosition() : m_choice.pointIn(widget->rect());
-    note(QStringLiteral("drag stages to %1,%2 of %3")
-             .arg(place.x())
-             .arg(place.y())
-             .arg(nameOf(widget)));
-    DragGesture gesture(std::move(data));
-    if (gesture.enter(widget, place)) {
-        place += {m_choice.between(-9, 9), m_choice.between(-99, 99)};
-        gesture.move(place);
-        if (m_choice.chance(80))
-            gesture.drop();
-    }
-    gesture.leave();
-    QCoreApplication::processEvents();
-}
-
-void Monkey::fillClipboard()
-{
-    note(QStringLiteral("clipboard"));
-    QGuiApplication::clipboard()->setMimeData(m_clipboard.payload(m_house.stageFiles()).release());
-}
-
-void Monkey::changeSurroundings()
-{
-    static const QList<double> ratios = {1.0, 1.0, 1.25, 1.5, 2.0};
-    const int what = m_choice.below(6);
-    note(QStringLiteral("surroundings %1").arg(what));
-    const auto docks = m_house.window()->findChildren<QDockWidget *>();
-    QDockWidget *dock = docks.isEmpty() ? nullptr : m_choice.from(docks);
-    switch (what) {
-    case 0:
-        ZvSystemInfo::setDpiRatioOverride(m_choice.from(ratios));
-        m_house.window()->resize(m_house.window()->size() + QSize(1, 1));
-        break;
-    case 1:
-        m_house.window()->resize(m_choice.between(200, 1800), m_choice.between(150, 1200));
-        break;
-    case 2:
-        if (dock)
-            dock->setFloating(!dock->isFloating());
-        break;
-    case 3:
-        if (dock)
-            dock->close();
-        break;
-    case 4:
-        if (m_choice.chance(20))
-            m_house.window()->close();
-        break;
-    default:
-        QTest::qWait(m_choice.between(1, 20));
-    }
-    QCoreApplication::processEvents();
+        press(m_house.window(), QPoint(1, 1), hand, false);
 }
 
 void Monkey::undoAndRedoAll()

@@ -37,6 +37,16 @@ private Q_SLOTS:
     void answer();
 
 private:
+    /// What is held while one click or drag goes on; another may come in the middle of it.
+    struct Hand
+    {
+        Qt::MouseButton button;
+        Qt::KeyboardModifiers modifiers;
+    };
+
+    static bool reachesBeyondData(const QWidget *widget);
+    static QString describe(const QWidget *widget);
+
     void act();
     void useMouse();
     void drag(QWidget *target, const QPoint &from);
@@ -49,11 +59,12 @@ private:
     void dragStages();
     void fillClipboard();
     void changeSurroundings();
+    void answer(QWidget *asked);
     void useDialog(QWidget *dialog);
 
     QWidget *topLevel();
     QWidget *target(QWidget *topLevel);
-    void press(QWidget *widget, const QPoint &position, bool down);
+    void press(QWidget *widget, const QPoint &position, const Hand &hand, bool down);
     void moveMouse(QWidget *widget, const QPoint &position);
     void click(QWidget *widget, const QPoint &position);
     QPoint tablePosition();
@@ -66,6 +77,7 @@ private:
     void undoAndRedo(Zavo::ZvScheduleWorkingArea *area);
 
     MonkeyChoice m_choice;
+    MonkeyChoice m_dialogChoice;
     MonkeyHouse m_house;
     MonkeyChecks m_checks;
     MonkeyClipboard m_clipboard;
@@ -79,10 +91,9 @@ private:
     std::FILE *m_log;
     QPointer<QWidget> m_asked;
     int m_playedWithAsked = 0;
+    int m_answerDepth = 0;
     bool m_isActing = false;
     bool m_hasFailed = false;
-    Qt::MouseButton m_button = Qt::LeftButton;
-    Qt::KeyboardModifiers m_modifiers = Qt::NoModifier;
 };
 
 } // namespace ZavoTest

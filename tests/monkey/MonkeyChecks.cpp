@@ -3,6 +3,7 @@
 #include "MonkeyHouse.h"
 
 #include "ZvChannel.h"
+#include "timetable/TimeAxis.h"
 #include "timetable/ZvScheduleWorkingArea.h"
 #include "timetable/ZvTimeTableScene.h"
 #include "timetable/ZvTimeTableTimeItem.h"
@@ -30,6 +31,13 @@ QString timeText(const ZvTime &time)
     const auto format = QStringLiteral("HH:mm:ss.zzz");
     return QStringLiteral("%1-%2 %3")
         .arg(time.startTime().toString(format), time.endTime().toString(format), time.stageName());
+}
+
+QTime rounded(QTime time)
+{
+    const int tenths = (time.msecsSinceStartOfDay() + 50) / 100;
+    return QTime::fromMSecsSinceStartOfDay(
+        qMin(tenths * 100, TimeAxis::endOfDay().msecsSinceStartOfDay()));
 }
 
 QString scheduleText(const ZvSchedule &schedule)
@@ -160,10 +168,16 @@ QString MonkeyChecks::contentOf(ZvScheduleWorkingArea *area)
     return texts.join(QLatin1Char('\n'));
 }
 
+// To the tenth of a second: a band that was moved and came back may have lost a millisecond.
 QString MonkeyChecks::tableOf(const ZvScheduleWorkingArea *area)
 {
     ZvSchedule schedule = area->currentScheduleInfo().toSchedule();
-    schedule.setTimeList(area->currentTimes());
+    QList<ZvTime> times = area->currentTimes();
+    for (ZvTime &time : times) {
+        time.setStartTime(rounded(time.startTime()));
+        time.setEndTime(rounded(time.endTime()));
+    }
+    schedule.setTimeList(times);
     return scheduleText(schedule);
 }
 
