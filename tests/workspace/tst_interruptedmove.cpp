@@ -89,6 +89,9 @@ private Q_SLOTS:
     void otherTabKeepsItsHistory();
     void pressWithoutAMoveIsNoStep();
     void mouseMovesNothingAfterTheInterruption();
+    void lostRelease();
+    void backToTheStartPastAnObstacle();
+    void pageShowsAnotherScheduleByItself();
 
 private:
     void interruptions();
@@ -248,6 +251,60 @@ void tst_InterruptedMove::mouseMovesNothingAfterTheInterruption()
     mouse.drag(QPointF(180.0, yOf("10:30:00")), QPointF(180.0, yOf("11:30:00")));
     QVERIFY(tabs.first()->currentTimes() != mondayBands);
     QCOMPARE(tabs.first()->undoStack()->count(), 1);
+}
+
+// A menu or another window can take the release of the button.
+void tst_InterruptedMove::lostRelease()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("10:30:00")));
+    SceneMouse lost(tabs.view());
+    lost.press(QPointF(180.0, yOf("10:30:00")));
+    lost.moveTo(QPointF(180.0, yOf("12:30:00")));
+    const QStringList moved = tabs.state();
+    SceneMouse next(tabs.view());
+    next.click(QPointF(180.0, yOf("08:30:00")));
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
+    QCOMPARE(tabs.state(), moved);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+}
+
+// The pointer returns to where it was pressed, but the band has stopped on the way.
+void tst_InterruptedMove::backToTheStartPastAnObstacle()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("10:00:00")));
+    SceneMouse mouse(tabs.view());
+    mouse.press(QPointF(180.0, yOf("10:30:00")));
+    mouse.moveTo(QPointF(180.0, yOf("08:15:00")));
+    mouse.moveTo(QPointF(180.0, yOf("10:30:00")));
+    mouse.release();
+    const QStringList moved = tabs.state();
+    QVERIFY(tabs.first()->currentTimes() != mondayBands);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+    tabs.widget()->redo();
+    QCOMPARE(tabs.state(), moved);
+}
+
+void tst_InterruptedMove::pageShowsAnotherScheduleByItself()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("11:00:00")));
+    const double handle = yOf("11:00:00") - 1.0;
+    SceneMouse mouse(tabs.view());
+    mouse.press(QPointF(180.0, handle));
+    mouse.moveTo(QPointF(180.0, handle + 60.0));
+    QVERIFY(tabs.first()->currentTimes() != mondayBands);
+    tabs.first()->switchToScheduleInfo(defaultInfo, false);
+    mouse.moveTo(QPointF(180.0, handle + 90.0));
+    mouse.release();
+    QCOMPARE(tabs.first()->currentTimes(), otherBands);
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentScheduleInfo(), mondayInfo);
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
 }
 
 QTEST_MAIN(tst_InterruptedMove)

@@ -141,6 +141,7 @@ void ZvScheduleWorkingArea::switchToScheduleInfo(const ZvScheduleBasicInfo &info
 {
     if (info == m_currentInfo && !force)
         return;
+    completeMove();
     if (isCurrentScheduleEnabled())
         storeCurrentSchedule();
     m_currentInfo = info;
