@@ -72,6 +72,8 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS
     "${zavo_depends_on_library}, hicolor-icon-theme, qttranslations5-l10n, rsync")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "openssh-client, xdg-utils")
+# Names of stages and channels may be Japanese, as may be the texts of the program.
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "fonts-ipafont-gothic | fonts-noto-cjk")
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION
     "schedule editor for display channels
 Edits what the screens of a display playout system show, hour by hour: a tab

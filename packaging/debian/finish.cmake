@@ -9,7 +9,10 @@ function(zavo_repack package)
   file(REMOVE ${folder}/DEBIAN/postinst ${folder}/DEBIAN/postrm)
   file(WRITE ${folder}/DEBIAN/triggers "activate-noawait ldconfig\n")
   if(CPACK_ZAVO_IS_MULTIARCH)
-    file(APPEND ${folder}/DEBIAN/control "Multi-Arch: same\n")
+    file(READ ${folder}/DEBIAN/control control)
+    string(REGEX REPLACE "(^|\n)(Architecture: [^\n]*\n)" "\\1\\2Multi-Arch: same\n" control
+                         "${control}")
+    file(WRITE ${folder}/DEBIAN/control "${control}")
   endif()
   execute_process(COMMAND dpkg-deb --root-owner-group --build ${folder} ${package}
                   OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
