@@ -12,6 +12,9 @@ constexpr char saveAction[] = "Action_Save_Channel";
 constexpr char saveAllAction[] = "Action_Save_All_Channel";
 constexpr char aboutAction[] = "Action_About";
 constexpr char aboutQtAction[] = "Action_About_Qt";
+constexpr char shortcutsAction[] = "Action_Keyboard_Shortcuts";
+constexpr char newScheduleAction[] = "Action_New_Schedule";
+constexpr char scheduleListDock[] = "ScheduleListDock";
 constexpr char whatsThisAction[] = "Action_Whats_This";
 
 /// Keys of the user settings.

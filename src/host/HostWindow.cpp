@@ -11,6 +11,8 @@
 #include "check/CheckDialog.h"
 #include "editor/ZvScheduleEditor.h"
 #include "exporter/ExportDialog.h"
+#include "shortcuts/ShortcutDialog.h"
+#include "shortcuts/Shortcuts.h"
 #include "upload/UploadDialog.h"
 
 #include <QAction>
@@ -72,6 +74,13 @@ ZvScheduleEditor *HostWindow::editor() const
     return m_editor;
 }
 
+// Who never changed a key need not wait until the commands are gone through.
+void HostWindow::applyShortcuts()
+{
+    if (Shortcuts::areStored())
+        shortcuts()->load();
+}
+
 bool HostWindow::endSession(bool mayAsk)
 {
     if (!m_editorClosed && (!mayAsk || m_busyCount > 0))
@@ -96,6 +105,11 @@ void HostWindow::showConfiguration()
     ConfigurationDialog dialog(isUploading, this);
     if (dialog.exec() == QDialog::Accepted && m_uploadDialog && !isUploading)
         m_uploadDialog->reloadTargets();
+}
+
+void HostWindow::showShortcuts()
+{
+    ShortcutDialog(shortcuts(), this).exec();
 }
 
 void HostWindow::showChannelConfiguration()
@@ -174,6 +188,12 @@ QMenu *HostWindow::createToolsMenu()
     configuration->setWhatsThis(tr("Shows the data folder, the settings of its schedules and the "
                                    "upload targets, each with an explanation, to be changed."));
     configuration->setMenuRole(QAction::PreferencesRole);
+    QAction *const keys =
+        menu->addAction(tr("&Keyboard Shortcuts..."), this, SLOT(showShortcuts()));
+    keys->setObjectName(QLatin1String(HostNames::shortcutsAction));
+    keys->setStatusTip(tr("Shows and changes the keys of all commands"));
+    keys->setWhatsThis(tr("Lists all commands with their keys. Other keys can be given to each of "
+                          "them; what is already in use is told."));
     return menu;
 }
 
@@ -219,6 +239,13 @@ void HostWindow::connectEditor()
                              SLOT(purge(QGraphicsScene*)));
     connect(m_editor, SIGNAL(graphicsScenePurged(QList<QGraphicsScene*>)), m_scenePurger,
                              SLOT(purge(QList<QGraphicsScene*>)));
+}
+
+Shortcuts *HostWindow::shortcuts()
+{
+    if (!m_shortcuts)
+        m_shortcuts = std::make_unique<Shortcuts>(this);
+    return m_shortcuts.get();
 }
 
 void HostWindow::closeEditor()

@@ -2,6 +2,8 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 class QMenu;
 
 namespace Zavo {
@@ -9,6 +11,7 @@ namespace Zavo {
 class CheckDialog;
 class ExportDialog;
 class ScenePurger;
+class Shortcuts;
 class UploadDialog;
 class ZvScheduleEditor;
 
@@ -47,6 +50,10 @@ public:
 
     ZvScheduleEditor *editor() const;
 
+    /// Gives the commands the keys that a person has chosen. To be called once all are in the
+    /// menus.
+    void applyShortcuts();
+
     /// The session is about to end. Closes the editor, which asks about unsaved channels, if
     /// @p mayAsk. False if the session should wait because the user could not be asked, or is just
     /// being asked something else.
@@ -60,6 +67,9 @@ public Q_SLOTS:
 
     /// Shows the configuration of the program and waits until it is closed.
     void showConfiguration();
+
+    /// Shows the keys of all commands and waits until that is closed.
+    void showShortcuts();
 
     /// Shows the channels as they are saved and waits until that is closed.
     void showChannelConfiguration();
@@ -90,7 +100,9 @@ private:
     void connectEditor();
     void closeEditor();
     bool confirmEndOfUpload();
+    Shortcuts *shortcuts();
 
+    std::unique_ptr<Shortcuts> m_shortcuts; // null until somebody asks for them
     ScenePurger *m_scenePurger = nullptr;
     ZvScheduleEditor *m_editor = nullptr;
     UploadDialog *m_uploadDialog = nullptr; // null until it is first asked for

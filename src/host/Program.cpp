@@ -151,6 +151,7 @@ int Program::runWindow(SafetyNet *net)
     if (!m_window->start(&message))
         return fail(message);
     auto desk = std::make_unique<SafetyDesk>(ZvEditorConfig::dataDir(), net, m_window.get());
+    m_window->applyShortcuts();
     tellOfLeftSession(*net, desk.get());
     ScreenshotTaker screenshot(m_window.get(), m_commandLine.screenshotFile());
     if (m_commandLine.wish() == CommandLine::Wish::Screenshot) {
