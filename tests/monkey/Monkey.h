@@ -74,7 +74,7 @@ private:
     void check();
     void fail(const QStringList &wrong);
     void undoAndRedoAll();
-    void undoAndRedo(Zavo::ZvScheduleWorkingArea *area);
+    void undoAndRedo(Zavo::ZvScheduleWorkingArea *area, MonkeyChecks::Content content);
 
     MonkeyChoice m_choice;
     MonkeyChoice m_dialogChoice;

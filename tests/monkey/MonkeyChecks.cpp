@@ -40,6 +40,19 @@ QTime rounded(QTime time)
         qMin(tenths * 100, TimeAxis::endOfDay().msecsSinceStartOfDay()));
 }
 
+ZvSchedule bandsOf(const ZvSchedule &schedule)
+{
+    ZvSchedule bands = schedule;
+    QList<ZvTime> times = schedule.timeList();
+    for (ZvTime &time : times) {
+        time.setStartTime(rounded(time.startTime()));
+        time.setEndTime(rounded(time.endTime()));
+    }
+    bands.setDefaultStage(QString());
+    bands.setTimeList(times);
+    return bands;
+}
+
 QString scheduleText(const ZvSchedule &schedule)
 {
     QStringList lines{QStringLiteral("schedule %1 %2 %3 default %4")
@@ -156,29 +169,23 @@ QStringList MonkeyChecks::wrongOnDisk()
     return wrong;
 }
 
-QString MonkeyChecks::contentOf(ZvScheduleWorkingArea *area)
+QString MonkeyChecks::contentOf(ZvScheduleWorkingArea *area, Content content)
 {
     area->refreshStoredSchedule();
     QStringList texts;
     const QList<ZvSchedule> &list = area->channel()->scheduleList();
     for (const ZvSchedule &schedule : list)
-        texts.append(scheduleText(schedule));
+        texts.append(scheduleText(content == Bands ? bandsOf(schedule) : schedule));
     texts.sort();
     texts.prepend(area->channelName());
     return texts.join(QLatin1Char('\n'));
 }
 
-// To the tenth of a second: a band that was moved and came back may have lost a millisecond.
 QString MonkeyChecks::tableOf(const ZvScheduleWorkingArea *area)
 {
     ZvSchedule schedule = area->currentScheduleInfo().toSchedule();
-    QList<ZvTime> times = area->currentTimes();
-    for (ZvTime &time : times) {
-        time.setStartTime(rounded(time.startTime()));
-        time.setEndTime(rounded(time.endTime()));
-    }
-    schedule.setTimeList(times);
-    return scheduleText(schedule);
+    schedule.setTimeList(area->currentTimes());
+    return scheduleText(bandsOf(schedule));
 }
 
 QString MonkeyChecks::placeInHistory(const ZvScheduleWorkingArea *area)

@@ -29,11 +29,14 @@ public:
     /// have changed since the last look.
     QStringList wrongOnDisk();
 
-    /// Everything that the page holds, as text to be compared.
-    static QString contentOf(Zavo::ZvScheduleWorkingArea *area);
+    enum Content { Bands, BandsAndDefaultStages };
 
-    /// The bands on show, in the same way, and where the page stands in its history. The one
-    /// changes only with the other.
+    /// What the page holds, as text to be compared. The bands alone are given to the tenth of a
+    /// second, since one that was moved and came back may have lost a millisecond.
+    static QString contentOf(Zavo::ZvScheduleWorkingArea *area, Content content);
+
+    /// The bands on show, to the tenth of a second, and where the page stands in its history. The
+    /// one changes only with the other.
     static QString tableOf(const Zavo::ZvScheduleWorkingArea *area);
     static QString placeInHistory(const Zavo::ZvScheduleWorkingArea *area);
 
