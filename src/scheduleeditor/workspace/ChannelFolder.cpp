@@ -3,13 +3,18 @@
 #include "Path.h"
 #include "ZvChannel.h"
 #include "ZvSchedule.h"
+#include "storage/BoundedFile.h"
+#include "storage/ChannelFile.h"
+#include "storage/DurableFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
 #include <limits>
+#include <system_error>
 #include <utility>
 
 namespace Zavo {
@@ -72,17 +77,27 @@ QStringList ChannelFolder::channelFileNames() const
     return QDir(m_path).entryList(filters, QDir::Files, QDir::Name);
 }
 
+// A folder that cannot be listed to its end looks like one with fewer files.
+bool ChannelFolder::hasNoFiles() const
+{
+    std::error_code error;
+    std::filesystem::directory_iterator entries(QFile::encodeName(m_path).constData(), error);
+    while (!error && entries != std::filesystem::directory_iterator()) {
+        if (!entries->is_directory(error))
+            return false;
+        entries.increment(error);
+    }
+    return !error;
+}
+
 bool ChannelFolder::removeAllFiles() const
 {
     const QDir dir(m_path);
     const QStringList names = dir.entryList(
         QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
-    bool allRemoved = true;
-    for (const QString &name : names) {
-        if (!QFile::remove(dir.absoluteFilePath(name)))
-            allRemoved = false;
-    }
-    return allRemoved;
+    for (const QString &name : names)
+        QFile::remove(dir.absoluteFilePath(name));
+    return hasNoFiles();
 }
 
 ChannelFolder::LoadResult ChannelFolder::load(Channels *channels) const
@@ -219,7 +234,12 @@ void ChannelFolder::copyToBasicFile(const ZvChannel &channel)
     const QString filePath = channel.filePath();
     const QString basicPath = Path::combine(QFileInfo(filePath).absolutePath(), BasicFileName);
     QFile::remove(basicPath);
-    QFile::copy(filePath, basicPath);
+    QByteArray bytes;
+    // At a start the copy goes before its original, so it reaches the disk as safely, also where
+    // the old one could not be removed.
+    if (BoundedFile::read(filePath, ChannelFile::MaximumBytes, &bytes) &&
+        DurableFile::write(basicPath, bytes))
+        QFile::setPermissions(basicPath, QFile::permissions(filePath));
 }
 
 void sortChannelsByIndex(ChannelFolder::Channels *channels)

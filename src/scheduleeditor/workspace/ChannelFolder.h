@@ -59,8 +59,8 @@ public:
     static std::unique_ptr<ZvChannel> newChannel(const QString &filePath, int id, int index,
                                                  const QString &name);
 
-    /// Removes every file in the folder, whatever it is called, and no folder. False if one stayed;
-    /// the others are gone all the same.
+    /// Removes every file in the folder, whatever it is called, and no folder. False if one stayed,
+    /// or if the folder does not show whether one did; the others are gone all the same.
     bool removeAllFiles() const;
 
     /// Replaces the basic file beside the file of @p channel by a copy of that file. The old one is
@@ -70,6 +70,7 @@ public:
 
 private:
     bool create() const;
+    bool hasNoFiles() const;
     Channels readChannels(const QStringList &fileNames) const;
     bool createDefaultChannels(Channels *channels) const;
     std::unique_ptr<ZvChannel> basicChannelAsNumberZero() const;
