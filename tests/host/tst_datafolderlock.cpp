@@ -179,7 +179,8 @@ void tst_DataFolderLock::sweepsWhatKilledSavesLeft()
     const QString nestedStage = QStringLiteral("stage/a/b/") + hiddenName(dead, 12);
     const QStringList leftovers{hiddenName(dead, 0),
                                 QStringLiteral("channel/") + hiddenName(dead, 1),
-                                QStringLiteral("stage/") + hiddenName(dead, 2), nestedStage};
+                                QStringLiteral("stage/") + hiddenName(dead, 2), nestedStage,
+                                QStringLiteral("backup/channel0.xml/") + hiddenName(dead, 3)};
     for (const QString &name : leftovers)
         m_folder->write(name, "half");
     m_folder->write(QStringLiteral("channel/channel0.xml"), "whole");

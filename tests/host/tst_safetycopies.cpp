@@ -65,6 +65,7 @@ private Q_SLOTS:
     void keepsThePermissions();
     void looksAtManyChannels();
     void savesAndLooksAtOnce();
+    void sharesItsFolder();
     void tellsTheDifference();
     void tellsOfNameAndPlace();
 
@@ -519,6 +520,33 @@ ZvSchedule dateSchedule(int day, const QString &stage)
 }
 
 } // namespace
+
+// Two programs that know nothing of each other copy at the same moments.
+void tst_SafetyCopies::sharesItsFolder()
+{
+    constexpr int states = 10;
+    std::atomic<int> failures{0};
+    const auto keepStates = [&](char program) {
+        BackupStore store(m_folder->path());
+        for (int number = 0; number < states; ++number) {
+            const QByteArray content = QByteArray(1, program) + QByteArray::number(number);
+            if (store.keepBytes(QStringLiteral("channel0.xml"), content) !=
+                BackupStore::Result::Kept)
+                ++failures;
+        }
+    };
+    std::thread one(keepStates, 'a');
+    std::thread other(keepStates, 'b');
+    one.join();
+    other.join();
+    QCOMPARE(failures.load(), 0);
+    const QList<QByteArray> contents = kept();
+    QCOMPARE(contents.size(), 2 * states);
+    for (int number = 0; number < states; ++number) {
+        QVERIFY(contents.contains("a" + QByteArray::number(number)));
+        QVERIFY(contents.contains("b" + QByteArray::number(number)));
+    }
+}
 
 void tst_SafetyCopies::tellsTheDifference()
 {

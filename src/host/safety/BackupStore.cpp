@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <atomic>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,7 +22,13 @@ namespace {
 const QLatin1String backupFolderName("backup");
 const QLatin1String momentFormat("yyyy-MM-ddTHH-mm-ss.zzz");
 const QLatin1String copySuffix("Z.xml");
-const QLatin1String incomingName(".incoming");
+
+// Of its own for each program, which may lie in the same folder; what a killed one leaves is swept.
+QString incomingName()
+{
+    static std::atomic<unsigned> s_count{0};
+    return QStringLiteral(".zavo-%1-%2.tmp").arg(::getpid()).arg(s_count++);
+}
 
 /// The moment in which the copy was made; invalid if the name is none of a copy.
 QDateTime momentOf(const QString &copyName)
@@ -39,6 +46,24 @@ bool hasBytes(const QString &path, const QByteArray &bytes)
     QByteArray read;
     return QFileInfo(path).size() == bytes.size() &&
            BoundedFile::read(path, ChannelFile::MaximumBytes, &read) && read == bytes;
+}
+
+/// Under the name that was chosen, or one a moment later if another program has just taken it.
+bool putInPlace(QFile *file, const QString &path)
+{
+    constexpr int maximumTries = 100;
+    const QFileInfo info(path);
+    QDateTime moment = momentOf(info.fileName());
+    for (int tries = 0; tries < maximumTries; ++tries) {
+        const QString name = moment.toString(QString(momentFormat)) + copySuffix;
+        const QString next = Path::combine(info.path(), name);
+        if (file->rename(next))
+            return true;
+        if (!QFile::exists(next))
+            return false;
+        moment = moment.addMSecs(1);
+    }
+    return false;
 }
 
 } // namespace
@@ -142,8 +167,7 @@ BackupStore::Result BackupStore::keepState(const QString &fileName, const QByteA
     });
     if (same != copies.cend() && same == copies.cbegin())
         return Result::Unchanged;
-    const QString path = pathOfNext(fileName, copies);
-    if (!write(path, bytes, origin))
+    if (!write(pathOfNext(fileName, copies), bytes, origin))
         return Result::Failed;
     if (same != copies.cend())
         QFile::remove(Path::combine(folder, *same));
@@ -162,15 +186,14 @@ QString BackupStore::pathOfNext(const QString &fileName, const QStringList &copi
 
 bool BackupStore::write(const QString &path, const QByteArray &bytes, const Origin &origin)
 {
-    QFile file(Path::combine(QFileInfo(path).path(), incomingName));
-    file.remove();
+    QFile file(Path::combine(QFileInfo(path).path(), incomingName()));
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
                          file.write(bytes) == bytes.size() && file.flush() &&
                          file.setFileTime(origin.modified, QFileDevice::FileModificationTime) &&
                          (!origin.permissions || file.setPermissions(origin.permissions));
     const QString reason = file.errorString();
     file.close();
-    if (written && file.error() == QFileDevice::NoError && file.rename(path))
+    if (written && file.error() == QFileDevice::NoError && putInPlace(&file, path))
         return true;
     fail(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), reason));
     file.remove();

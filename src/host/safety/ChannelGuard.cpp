@@ -2,6 +2,7 @@
 
 #include "safety/BackupStore.h"
 #include "safety/ChannelStates.h"
+#include "safety/FileStamp.h"
 #include "storage/BoundedFile.h"
 #include "storage/ChannelFile.h"
 
@@ -11,6 +12,8 @@
 #include <QThread>
 
 #include <cerrno>
+
+#include <sys/stat.h>
 
 namespace Zavo {
 
@@ -43,14 +46,29 @@ int ChannelGuard::rename(const char *from, const char *to)
     }
     // What the other program did while the question was open goes no other way.
     m_store->keep(filePath);
+    QFile ours(QFile::decodeName(from));
+    ours.open(QIODevice::ReadOnly);
     const int result =
         m_states->replaceByOurs(filePath, [&] { return FileSystemCalls::rename(from, to); });
     const int error = errno;
     // At once, since the next that happens to the file may be its removal.
     if (result == 0)
-        m_store->keep(filePath);
+        keepReplaced(filePath, &ours);
     errno = error;
     return result;
+}
+
+void ChannelGuard::keepReplaced(const QString &filePath, QFile *ours)
+{
+    m_store->keep(filePath);
+    struct stat written = {};
+    if (!ours->isOpen() || ::fstat(ours->handle(), &written) != 0 ||
+        FileStamp::of(filePath).inode == written.st_ino)
+        return;
+    // Another program has replaced it in its turn, perhaps before it was copied.
+    const QByteArray bytes = ours->readAll();
+    m_store->keepBytes(QFileInfo(filePath).fileName(), bytes);
+    m_store->keep(filePath);
 }
 
 bool ChannelGuard::mayReplace(const QString &filePath) const

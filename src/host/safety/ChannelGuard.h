@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QFile;
 class QString;
 
 namespace Zavo {
@@ -37,6 +38,7 @@ public:
 
 private:
     bool mayReplace(const QString &filePath) const;
+    void keepReplaced(const QString &filePath, QFile *ours);
     void keepRefused(const QString &filePath, const QString &newFilePath);
 
     ChannelStates *m_states = nullptr;

@@ -51,6 +51,8 @@ QStringList sweep(const QString &dataDir)
            sweepFolder(Path::combine(dataDir, QStringLiteral("channel")),
                        QDirIterator::NoIteratorFlags) +
            sweepFolder(Path::combine(dataDir, QStringLiteral("stage")),
+                       QDirIterator::Subdirectories) +
+           sweepFolder(Path::combine(dataDir, QStringLiteral("backup")),
                        QDirIterator::Subdirectories);
 }
 

@@ -19,6 +19,9 @@ SafetyWorker::SafetyWorker(const QString &dataDir, ChannelStates *states, Backup
 
 void SafetyWorker::start()
 {
+    // A session can end before its thread has begun.
+    if (m_isFinished)
+        return;
     look();
     Leftovers::sweep(m_dataDir);
     m_timer.start();
@@ -41,6 +44,7 @@ void SafetyWorker::recordUnsaved(const QStringList &channelNames)
 
 void SafetyWorker::finish()
 {
+    m_isFinished = true;
     m_timer.stop();
     // The states of the last saves.
     look();

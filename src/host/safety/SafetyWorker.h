@@ -50,6 +50,7 @@ private:
     QDateTime m_started = QDateTime::currentDateTime();
     QTimer m_timer;
     bool m_failed = false;
+    bool m_isFinished = false;
 };
 
 } // namespace Zavo
