@@ -1012,6 +1012,10 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
         <source>Do you want to overwrite it? Whichever of the two states is not in the file afterwards stays among the safety copies.</source>
         <translation>Möchten Sie sie überschreiben? Derjenige der beiden Stände, der danach nicht in der Datei steht, bleibt unter den Sicherungskopien.</translation>
     </message>
+    <message>
+        <source>The file &quot;channel.xml&quot; could not be renewed. The next start would show the first channel as it was before.</source>
+        <translation>Die Datei „channel.xml“ konnte nicht erneuert werden. Beim nächsten Start würde der erste Kanal so gezeigt, wie er vorher war.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::SavePrompt</name>

@@ -1012,6 +1012,10 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
         <source>Do you want to overwrite it? Whichever of the two states is not in the file afterwards stays among the safety copies.</source>
         <translation>Voulez-vous l’écraser&#xa0;? Celui des deux états qui n’est ensuite plus dans le fichier reste parmi les copies de sécurité.</translation>
     </message>
+    <message>
+        <source>The file &quot;channel.xml&quot; could not be renewed. The next start would show the first channel as it was before.</source>
+        <translation>Le fichier «&#xa0;channel.xml&#xa0;» n’a pas pu être renouvelé. Au prochain démarrage, le premier canal s’afficherait tel qu’il était auparavant.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::SavePrompt</name>

@@ -1003,6 +1003,10 @@ Do you want to cancel the upload and close?</source>
         <source>Do you want to overwrite it? Whichever of the two states is not in the file afterwards stays among the safety copies.</source>
         <translation>上書きしますか? 2 つの状態のうちファイルに残らない方は、バックアップコピーに残ります。</translation>
     </message>
+    <message>
+        <source>The file &quot;channel.xml&quot; could not be renewed. The next start would show the first channel as it was before.</source>
+        <translation>ファイル「channel.xml」を更新できませんでした。次回の起動時には、最初のチャンネルが以前の状態で表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::SavePrompt</name>

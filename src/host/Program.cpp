@@ -162,8 +162,11 @@ int Program::runWindow(SafetyNet *net)
     m_window->show();
     const int exitCode = QCoreApplication::exec();
     const std::optional<BackupState> wanted = desk->wantedState();
+    const QString remark = desk->remarkOnSaving();
     desk.reset();
     m_window.reset();
+    if (!remark.isEmpty())
+        fail(remark);
     if (wanted)
         restore(*wanted);
     return exitCode;

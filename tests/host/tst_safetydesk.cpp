@@ -2,6 +2,7 @@
 
 #include "DialogAnswer.h"
 #include "DragGesture.h"
+#include "FolderFaults.h"
 #include "HostWindow.h"
 #include "MessageBoxAnswer.h"
 #include "Program.h"
@@ -41,6 +42,7 @@ using ZavoTest::DialogAnswer;
 using ZavoTest::DragGesture;
 using ZavoTest::MessageBoxAnswer;
 using ZavoTest::TemporaryDataFolder;
+using ZavoTest::UnremovableFile;
 
 namespace {
 constexpr int folderTimeoutMs = 20000;
@@ -62,6 +64,7 @@ private Q_SLOTS:
     void asksBeforeItSaves_data();
     void asksBeforeItSaves();
     void staysOpenWhileItAsks();
+    void tellsOfABasicFileThatStays();
     void keepsWhatTheResetRemoves();
     void showsTheCopies();
     void showsAThousandChannelsAtOnce();
@@ -333,6 +336,26 @@ void tst_SafetyDesk::staysOpenWhileItAsks()
     trigger("Action_Save_Channel");
     QVERIFY(channel().contains("a.xml"));
     QVERIFY(m_window->close());
+}
+
+// At a start the basic file goes before the file of the channel that was saved.
+void tst_SafetyDesk::tellsOfABasicFileThatStays()
+{
+    {
+        const UnremovableFile basic(m_folder->filePath(QStringLiteral("channel/channel.xml")));
+        if (!basic.isEffective())
+            QSKIP("No file can be kept from being removed here.");
+        drop(0);
+        trigger("Action_Save_Channel");
+        QVERIFY(!notices()->isHidden());
+        QVERIFY2(notices()->text().contains(QStringLiteral("\"channel.xml\"")),
+                 qPrintable(notices()->text()));
+    }
+    notices()->findChild<QAction *>(QStringLiteral("Action_Close_Safety_Notice"))->trigger();
+    drop(0);
+    trigger("Action_Save_Channel");
+    QVERIFY(notices()->isHidden());
+    QCOMPARE(m_folder->read(QStringLiteral("channel/channel.xml")), channel());
 }
 
 void tst_SafetyDesk::keepsWhatTheResetRemoves()

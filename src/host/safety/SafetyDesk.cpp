@@ -6,6 +6,7 @@
 #include "ZvChannel.h"
 #include "editor/ZvScheduleEditor.h"
 #include "safety/BackupDialog.h"
+#include "safety/BasicCopy.h"
 #include "safety/NoticeBar.h"
 #include "safety/SafetyNames.h"
 #include "safety/SafetyNet.h"
@@ -42,7 +43,13 @@ SafetyDesk::SafetyDesk(const QString &dataDir, SafetyNet *net, HostWindow *windo
     connect(m_unsaved, SIGNAL(changed(QStringList)), net, SLOT(recordUnsaved(QStringList)));
     connect(net, SIGNAL(changedByOthers(QStringList)), this, SLOT(onChangedByOthers(QStringList)));
     connect(net, SIGNAL(copiesFailed(QString)), this, SLOT(onCopiesFailed(QString)));
+    // The editor was connected first, so it has saved by then.
+    for (const char *name : {HostNames::saveAction, HostNames::saveAllAction}) {
+        if (const QAction *const save = window->editor()->getAction(QLatin1String(name)))
+            connect(save, SIGNAL(triggered()), this, SLOT(onSaved()));
+    }
     // clang-format on
+    m_isBasicCopyOutdated = BasicCopy(dataDir).isOutdated();
     net->setQuestion([this](const QString &filePath) { return mayReplace(filePath); });
 }
 
@@ -100,6 +107,24 @@ void SafetyDesk::onChangedByOthers(const QStringList &fileNames)
 void SafetyDesk::onCopiesFailed(const QString &reason)
 {
     m_notices->tell(tr("No safety copies can be made: %1").arg(reason));
+}
+
+// One that was another than its original before is another program's, and told of as such.
+QString SafetyDesk::remarkOnSaving()
+{
+    const bool wasOutdated = m_isBasicCopyOutdated;
+    m_isBasicCopyOutdated = BasicCopy(m_dataDir).isOutdated();
+    if (!m_isBasicCopyOutdated || wasOutdated)
+        return {};
+    return tr("The file \"channel.xml\" could not be renewed. The next start would show the first "
+              "channel as it was before.");
+}
+
+void SafetyDesk::onSaved()
+{
+    const QString remark = remarkOnSaving();
+    if (!remark.isEmpty())
+        m_notices->tell(remark);
 }
 
 void SafetyDesk::addAction()

@@ -35,6 +35,10 @@ public:
     /// channel. False if the old file stays.
     static bool restore(const QString &dataDir, const BackupState &state);
 
+    /// What to tell the user about what was saved just now, the first time that there is something;
+    /// empty otherwise.
+    QString remarkOnSaving();
+
     /// Tells @p text in a box over the window, once the window is there.
     void tell(const QString &text);
 
@@ -44,6 +48,7 @@ public Q_SLOTS:
 private Q_SLOTS:
     void onChangedByOthers(const QStringList &fileNames);
     void onCopiesFailed(const QString &reason);
+    void onSaved();
 
 private:
     void addAction();
@@ -55,6 +60,7 @@ private:
     HostWindow *m_window = nullptr;
     QAction *m_copiesAction = nullptr;
     NoticeBar *m_notices = nullptr;
+    bool m_isBasicCopyOutdated = false;
     UnsavedEdits *m_unsaved = nullptr;
     std::optional<BackupState> m_wantedState;
 };
