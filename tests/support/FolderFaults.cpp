@@ -129,11 +129,12 @@ struct SmallDisk::Limit
     WriteFailure failure;
 };
 
-SmallDisk::SmallDisk(const QString &path)
+SmallDisk::SmallDisk(const QString &path, int kibibytes)
     : m_path(QFile::encodeName(path))
-    , m_isMounted(hasOwnMounts() &&
-                  mount("none", m_path.constData(), "tmpfs", 0, "size=128k,mode=0755") == 0)
 {
+    const QByteArray options = "size=" + QByteArray::number(kibibytes) + "k,mode=0755";
+    m_isMounted =
+        hasOwnMounts() && mount("none", m_path.constData(), "tmpfs", 0, options.constData()) == 0;
 }
 
 SmallDisk::~SmallDisk()

@@ -49,15 +49,18 @@ private:
     std::unique_ptr<ReadOnlyFolder> m_folder;
 };
 
-/// While it lives, a folder, which has to be empty, is a disk of its own of some 128 KiB. Where no
-/// disk can be mounted, a full one is made of a limit to the size of files.
+/// While it lives, a folder, which has to be empty, is a disk of its own of some 128 KiB, or as
+/// told. Where no disk can be mounted, a full one is made of a limit to the size of files.
 class SmallDisk final
 {
     Q_DISABLE_COPY(SmallDisk)
 
 public:
-    explicit SmallDisk(const QString &path);
+    explicit SmallDisk(const QString &path, int kibibytes = 128);
     ~SmallDisk();
+
+    /// False where none can be mounted.
+    bool isOwn() const { return m_isMounted; }
 
     /// Takes all the space that is left.
     void fill();
