@@ -124,7 +124,9 @@ Command tst_Packages::runInstalled(const QStringList &arguments) const
 
 Command tst_Packages::dpkg(const QStringList &arguments) const
 {
-    QStringList words{QStringLiteral("dpkg"), QStringLiteral("--root=") + m_system,
+    // Small systems are set up to leave out manuals.
+    QStringList words{QStringLiteral("dpkg"), QStringLiteral("--path-include=/*"),
+                      QStringLiteral("--root=") + m_system,
                       QStringLiteral("--log=") + m_folder.filePath(QStringLiteral("dpkg.log"))};
     words += arguments;
     if (geteuid() != 0)
