@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Draws the window with each kind of schedule on show, as of a fixed day:
+# Draws the pictures of the documentation from the program itself, as of a fixed day:
 #   scripts/window-pictures.sh [FOLDER] (docs/images). Needs faketime.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)

@@ -1,116 +1,78 @@
-#include "CalendarMouse.h"
+#include "PicturedWindow.h"
+
 #include "Display.h"
-#include "HostWindow.h"
-#include "TemporaryDataFolder.h"
+#include "check/CheckDialog.h"
+#include "upload/UploadDialog.h"
+#include "upload/UploadTargets.h"
 
-#include "ZvEditorConfig.h"
-
-#include <QAction>
 #include <QApplication>
-#include <QCalendarWidget>
-#include <QDockWidget>
-#include <QGraphicsView>
-#include <QLabel>
-#include <QListView>
-#include <QtTest>
-
-#include <memory>
+#include <QTabBar>
+#include <QTabWidget>
 
 using namespace Zavo;
-using ZavoTest::CalendarMouse;
-using ZavoTest::TemporaryDataFolder;
+using ZavoTest::DragGesture;
 
 namespace {
 
-constexpr int settlingTime = 400; // ms, longer than all timers of a change of schedule
 const QDate pictured(2026, 12, 24);
 
-/// The program's window on a copy of the example data, operated as by hand.
-class PicturedWindow final
+void nameFirstTab(const PicturedWindow &window, const QString &name)
 {
-public:
-    PicturedWindow()
-    {
-        m_data.copyFrom(QStringLiteral(ZAVO_EXAMPLE_DATA));
-        ZvEditorConfig::reload();
-        m_window = std::make_unique<HostWindow>();
-        QString message;
-        if (!m_window->start(&message))
-            qFatal("%s", qPrintable(message));
-        m_window->show();
-        settle();
-    }
+    QTabBar *bar = window.window()->findChild<QTabWidget *>()->tabBar();
+    QTest::mouseDClick(bar, Qt::LeftButton, {}, bar->tabRect(0).center());
+    window.settle();
+    QTest::keyClicks(QApplication::focusWidget(), name);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+}
 
-    QWidget *widget(const char *name) const
-    {
-        auto *found = m_window->findChild<QWidget *>(QLatin1String(name));
-        if (!found)
-            qFatal("there is no %s", name);
-        return found;
-    }
-
-    void click(QWidget *widget, const QPoint &position) const
-    {
-        QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, position);
-    }
-
-    void clickDay(const QString &text) const
-    {
-        const QList<QLabel *> labels = widget("WeekWidget")->findChildren<QLabel *>();
-        for (QLabel *label : labels) {
-            if (label->text() == text)
-                click(label, label->rect().center());
+void dropDefaultStage(const PicturedWindow &window, const QString &stage)
+{
+    const QList<QLabel *> labels = window.window()->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->isVisible() && label->acceptDrops()) {
+            DragGesture drag(DragGesture::filesMimeData({window.stage(stage)}));
+            drag.enter(label, label->rect().center());
+            drag.drop();
+            return;
         }
     }
+}
 
-    void clickDate(const QDate &date, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        auto *calendar = qobject_cast<QCalendarWidget *>(widget("CalendarWidget"));
-        CalendarMouse(calendar).click(date, modifiers);
-    }
+void drawFirstHour(const QString &folder)
+{
+    const PicturedWindow window(PicturedWindow::Data::StagesOnly);
+    window.click(window.widget("DefaultScheduleSelectedWidget"), QPoint(3, 3));
+    window.chooseStage(QStringLiteral("welcome.xml"));
+    window.draw(folder + QStringLiteral("/guide-start.png"));
 
-    /// Clicks on the table on show, whose minutes are units of its scene.
-    void clickTime(const QTime &time) const
-    {
-        const QList<QGraphicsView *> views = m_window->findChildren<QGraphicsView *>();
-        for (QGraphicsView *view : views) {
-            const double y = 10.0 + time.msecsSinceStartOfDay() / 60000.0;
-            if (view->isVisible())
-                click(view->viewport(), view->mapFromScene(view->sceneRect().center().x(), y));
-        }
-    }
+    nameFirstTab(window, QStringLiteral("Lobby"));
+    window.drop(QStringLiteral("welcome.xml"), QTime(7, 30));
+    window.drop(QStringLiteral("news.xml"), QTime(8, 30));
+    window.drop(QStringLiteral("lunch_menu.zstg"), QTime(10, 0));
+    dropDefaultStage(window, QStringLiteral("logo.zstg"));
+    window.clickTime(QTime(9, 0));
+    window.draw(folder + QStringLiteral("/guide-bands.png"));
+}
 
-    void chooseStage(const QString &name) const
-    {
-        const auto *list = widget("ChooseStageDock")->findChild<QListView *>();
-        const QAbstractItemModel *model = list->model();
-        for (int row = 0; row < model->rowCount(list->rootIndex()); ++row) {
-            const QModelIndex index = model->index(row, 0, list->rootIndex());
-            if (index.data().toString() == name)
-                click(list->viewport(), list->visualRect(index).center());
-        }
-    }
+void drawDialogs(const PicturedWindow &window, const QString &folder)
+{
+    window.window()->checkData();
+    auto *check = window.window()->findChild<CheckDialog *>();
+    check->resize(760, 300);
+    if (!QTest::qWaitFor([check] { return !check->isChecking(); }, 20000))
+        qFatal("the check does not end");
+    window.draw(*check, folder + QStringLiteral("/guide-check.png"));
+    check->close();
 
-    void raise(const char *dockName) const
-    {
-        auto *dock = qobject_cast<QDockWidget *>(widget(dockName));
-        dock->show();
-        dock->raise();
-    }
-
-    void settle() const { QTest::qWait(settlingTime); }
-
-    void draw(const QString &filePath)
-    {
-        settle();
-        if (!m_window->grab().save(filePath))
-            qFatal("cannot write %s", qPrintable(filePath));
-    }
-
-private:
-    TemporaryDataFolder m_data;
-    std::unique_ptr<HostWindow> m_window;
-};
+    UploadTargets::store({{UploadTarget(QStringLiteral("/mnt/lobby-wall")), true},
+                          {UploadTarget(QStringLiteral("rsync://foyer/display")), true},
+                          {UploadTarget(QStringLiteral("zavo@concourse:/srv/zavo")), false}});
+    window.window()->showUploadManager();
+    auto *upload = window.window()->findChild<UploadDialog *>();
+    upload->resize(640, 320);
+    window.draw(*upload, folder + QStringLiteral("/guide-upload.png"));
+    upload->close();
+}
 
 } // namespace
 
@@ -121,7 +83,9 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     Display::chooseFont();
     const QString folder = QCoreApplication::arguments().value(1, QStringLiteral("."));
-    PicturedWindow window;
+    drawFirstHour(folder);
+
+    const PicturedWindow window;
     window.chooseStage(QStringLiteral("welcome.xml"));
     window.click(window.widget("DefaultScheduleSelectedWidget"), QPoint(3, 3));
     window.settle();
@@ -133,8 +97,13 @@ int main(int argc, char *argv[])
     window.clickDate(pictured.addDays(1), Qt::ControlModifier);
     window.draw(folder + QStringLiteral("/window-date.png"));
 
+    window.clickDate(pictured.addDays(4));
+    window.draw(folder + QStringLiteral("/guide-missing.png"));
+
     window.clickDay(QStringLiteral("Fri"));
     window.raise("ScheduleListDock");
     window.draw(folder + QStringLiteral("/window-day.png"));
+
+    drawDialogs(window, folder);
     return 0;
 }
