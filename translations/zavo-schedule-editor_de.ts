@@ -2,6 +2,249 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>Zavo::ActionHelp</name>
+    <message>
+        <source>Saves the channel of the current tab</source>
+        <translation>Speichert den Kanal des aktuellen Reiters</translation>
+    </message>
+    <message>
+        <source>Writes the channel of the current tab to its file. The file is replaced in one step, so that it is never half-written.</source>
+        <translation>Schreibt den Kanal des aktuellen Reiters in seine Datei. Die Datei wird in einem Schritt ersetzt und ist daher nie halb geschrieben.</translation>
+    </message>
+    <message>
+        <source>Saves the channels of all tabs</source>
+        <translation>Speichert die Kanäle aller Reiter</translation>
+    </message>
+    <message>
+        <source>Writes the channel of each tab to its file.</source>
+        <translation>Schreibt den Kanal jedes Reiters in seine Datei.</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor and asks about unsaved channels</source>
+        <translation>Schließt den Zeitplaneditor und fragt nach nicht gespeicherten Kanälen</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor. You are asked about each channel with changes that are not saved.</source>
+        <translation>Schließt den Zeitplaneditor. Sie werden nach jedem Kanal mit nicht gespeicherten Änderungen gefragt.</translation>
+    </message>
+    <message>
+        <source>Ends the program and asks about unsaved channels</source>
+        <translation>Beendet das Programm und fragt nach nicht gespeicherten Kanälen</translation>
+    </message>
+    <message>
+        <source>Ends the program. You are asked about each channel with changes that are not saved.</source>
+        <translation>Beendet das Programm. Sie werden nach jedem Kanal mit nicht gespeicherten Änderungen gefragt.</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of this channel</source>
+        <translation>Nimmt die letzte Änderung dieses Kanals zurück</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of the channel of the current tab, and shows the schedule that it was made in. Each channel has a history of its own.</source>
+        <translation>Nimmt die letzte Änderung am Kanal des aktuellen Reiters zurück und zeigt den Zeitplan, in dem sie erfolgte. Jeder Kanal hat seinen eigenen Verlauf.</translation>
+    </message>
+    <message>
+        <source>Makes the change again that was undone last</source>
+        <translation>Führt die zuletzt zurückgenommene Änderung wieder aus</translation>
+    </message>
+    <message>
+        <source>Makes the change of this channel again that was undone last, and shows the schedule that it belongs to.</source>
+        <translation>Führt die zuletzt zurückgenommene Änderung dieses Kanals wieder aus und zeigt den Zeitplan, zu dem sie gehört.</translation>
+    </message>
+    <message>
+        <source>Moves the selection to the clipboard</source>
+        <translation>Verschiebt die Auswahl in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Moves what is selected to the clipboard: stages in the time table, dates or a day of the week in Switch Schedule, or the checked rows of the Schedule List. What you used last counts.</source>
+        <translation>Verschiebt die Auswahl in die Zwischenablage: Szenen der Zeittafel, Tage oder einen Wochentag in „Zeitplan wechseln“ oder die angehakten Zeilen der Zeitplanliste. Es zählt, was Sie zuletzt benutzt haben.</translation>
+    </message>
+    <message>
+        <source>Copies the selection to the clipboard</source>
+        <translation>Kopiert die Auswahl in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Copies what is selected to the clipboard: stages in the time table, whole schedules in Switch Schedule, or the checked rows of the Schedule List. What you used last counts.</source>
+        <translation>Kopiert die Auswahl in die Zwischenablage: Szenen der Zeittafel, ganze Zeitpläne in „Zeitplan wechseln“ oder die angehakten Zeilen der Zeitplanliste. Es zählt, was Sie zuletzt benutzt haben.</translation>
+    </message>
+    <message>
+        <source>Inserts what is on the clipboard</source>
+        <translation>Fügt den Inhalt der Zwischenablage ein</translation>
+    </message>
+    <message>
+        <source>Inserts stages into the time table, or schedules at the selected date or day. You are asked before a schedule is replaced.</source>
+        <translation>Fügt Szenen in die Zeittafel ein oder Zeitpläne am gewählten Datum oder Wochentag. Sie werden gefragt, bevor ein Zeitplan ersetzt wird.</translation>
+    </message>
+    <message>
+        <source>Deletes the selection</source>
+        <translation>Löscht die Auswahl</translation>
+    </message>
+    <message>
+        <source>Deletes what is selected: stages in the time table, schedules in Switch Schedule, or the checked rows of the Schedule List. The default schedule cannot be deleted.</source>
+        <translation>Löscht die Auswahl: Szenen der Zeittafel, Zeitpläne in „Zeitplan wechseln“ oder die angehakten Zeilen der Zeitplanliste. Der Standardzeitplan kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Selects everything in the time table or the Schedule List</source>
+        <translation>Wählt alles in der Zeittafel oder der Zeitplanliste aus</translation>
+    </message>
+    <message>
+        <source>Selects all stages of the time table, or checks all rows of the Schedule List, whichever you used last.</source>
+        <translation>Wählt alle Szenen der Zeittafel aus oder hakt alle Zeilen der Zeitplanliste an, je nachdem, was Sie zuletzt benutzt haben.</translation>
+    </message>
+    <message>
+        <source>Selects nothing in the time table or the Schedule List</source>
+        <translation>Hebt die Auswahl in der Zeittafel oder der Zeitplanliste auf</translation>
+    </message>
+    <message>
+        <source>Takes the selection off all stages of the time table, or the check marks off all rows of the Schedule List, whichever you used last.</source>
+        <translation>Hebt die Auswahl aller Szenen der Zeittafel auf oder entfernt die Häkchen aller Zeilen der Zeitplanliste, je nachdem, was Sie zuletzt benutzt haben.</translation>
+    </message>
+    <message>
+        <source>Sends the channels and their stages to the displays</source>
+        <translation>Sendet die Kanäle und ihre Szenen an die Anzeigen</translation>
+    </message>
+    <message>
+        <source>Opens the upload manager, which sends the saved channels and the stages they use to the upload targets. You are asked about unsaved channels first.</source>
+        <translation>Öffnet das Fenster zum Hochladen, das die gespeicherten Kanäle und ihre Szenen an die Ziele sendet. Zuvor werden Sie nach nicht gespeicherten Kanälen gefragt.</translation>
+    </message>
+    <message>
+        <source>Exports the channel of the current tab to a file</source>
+        <translation>Exportiert den Kanal des aktuellen Reiters in eine Datei</translation>
+    </message>
+    <message>
+        <source>Exports the channel of the current tab, as it was saved last, to a file that other programs can read.</source>
+        <translation>Exportiert den Kanal des aktuellen Reiters, wie er zuletzt gespeichert wurde, in eine Datei, die andere Programme lesen können.</translation>
+    </message>
+    <message>
+        <source>Opens the log of the last upload</source>
+        <translation>Öffnet das Protokoll des letzten Hochladens</translation>
+    </message>
+    <message>
+        <source>Opens the log that tells how the last upload went.</source>
+        <translation>Öffnet das Protokoll, das vom letzten Hochladen berichtet.</translation>
+    </message>
+    <message>
+        <source>Opens the folder with the logs of the uploads</source>
+        <translation>Öffnet den Ordner mit den Upload-Protokollen</translation>
+    </message>
+    <message>
+        <source>Opens the folder with the logs of the last upload and of those before.</source>
+        <translation>Öffnet den Ordner mit den Protokollen des letzten und der früheren Uploads.</translation>
+    </message>
+    <message>
+        <source>Creates the schedule that is chosen in Switch Schedule</source>
+        <translation>Legt den in „Zeitplan wechseln“ gewählten Zeitplan an</translation>
+    </message>
+    <message>
+        <source>Creates a schedule for the date or the day of the week that is chosen in Switch Schedule, if it has none. Stages can be dropped only on a schedule that exists.</source>
+        <translation>Legt für das in „Zeitplan wechseln“ gewählte Datum oder den Wochentag einen Zeitplan an, wenn es noch keinen gibt. Szenen können nur in einen vorhandenen Zeitplan gezogen werden.</translation>
+    </message>
+    <message>
+        <source>Deletes the schedule that is shown</source>
+        <translation>Löscht den angezeigten Zeitplan</translation>
+    </message>
+    <message>
+        <source>Deletes the schedule in the time table with all its stages, after a question. The default schedule cannot be deleted.</source>
+        <translation>Löscht nach einer Rückfrage den Zeitplan in der Zeittafel mit allen Szenen. Der Standardzeitplan kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Changes the name of the channel in its tab</source>
+        <translation>Ändert den Namen des Kanals in seinem Reiter</translation>
+    </message>
+    <message>
+        <source>Opens the name in the current tab for editing. Enter takes the new name over. Two channels cannot have the same name.</source>
+        <translation>Öffnet den Namen im aktuellen Reiter zum Bearbeiten. Die Eingabetaste übernimmt den neuen Namen. Zwei Kanäle können nicht denselben Namen haben.</translation>
+    </message>
+    <message>
+        <source>Moves the tab of the channel to another place</source>
+        <translation>Verschiebt den Reiter des Kanals an einen anderen Platz</translation>
+    </message>
+    <message>
+        <source>Moves the current tab to the place of another one. The first channel keeps its place. This cannot be undone.</source>
+        <translation>Verschiebt den aktuellen Reiter an den Platz eines anderen. Der erste Kanal behält seinen Platz. Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Adds a channel with an empty default schedule</source>
+        <translation>Fügt einen Kanal mit leerem Standardzeitplan hinzu</translation>
+    </message>
+    <message>
+        <source>Adds a channel with an empty default schedule behind the last tab. Its file is written at once.</source>
+        <translation>Fügt hinter dem letzten Reiter einen Kanal mit leerem Standardzeitplan hinzu. Seine Datei wird sofort geschrieben.</translation>
+    </message>
+    <message>
+        <source>Deletes the channel of the current tab with its file</source>
+        <translation>Löscht den Kanal des aktuellen Reiters mit seiner Datei</translation>
+    </message>
+    <message>
+        <source>Deletes the channel of the current tab with its file, after a question. The first channel cannot be deleted. This cannot be undone.</source>
+        <translation>Löscht nach einer Rückfrage den Kanal des aktuellen Reiters mit seiner Datei. Der erste Kanal kann nicht gelöscht werden. Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Deletes all channels and closes the editor</source>
+        <translation>Löscht alle Kanäle und schließt den Editor</translation>
+    </message>
+    <message>
+        <source>Deletes every channel file and the settings of the channels, after a question, and closes the editor. The next start begins with ten empty channels. This cannot be undone.</source>
+        <translation>Löscht nach einer Rückfrage alle Kanaldateien und die Einstellungen der Kanäle und schließt den Editor. Der nächste Start beginnt mit zehn leeren Kanälen. Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Shows the id, place and number of schedules of the channel</source>
+        <translation>Zeigt ID, Platz und Anzahl der Zeitpläne des Kanals</translation>
+    </message>
+    <message>
+        <source>Shows the id, the name and the place of the current channel, and how many schedules of each kind it has.</source>
+        <translation>Zeigt ID, Namen und Platz des aktuellen Kanals und wie viele Zeitpläne jeder Art er hat.</translation>
+    </message>
+    <message>
+        <source>Chooses which channels are uploaded</source>
+        <translation>Wählt, welche Kanäle hochgeladen werden</translation>
+    </message>
+    <message>
+        <source>Lists the saved channels and chooses which of them are uploaded.</source>
+        <translation>Listet die gespeicherten Kanäle auf und legt fest, welche von ihnen hochgeladen werden.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel for choosing a schedule</source>
+        <translation>Zeigt oder verbirgt das Feld zum Wählen eines Zeitplans</translation>
+    </message>
+    <message>
+        <source>Shows or hides Switch Schedule, the panel where you choose which schedule is in the time table: that of a date, of a day of the week, or the default one.</source>
+        <translation>Zeigt oder verbirgt „Zeitplan wechseln“; dort wählen Sie, welcher Zeitplan in der Zeittafel steht: der eines Datums, der eines Wochentags oder der Standardzeitplan.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of all schedules</source>
+        <translation>Zeigt oder verbirgt die Liste aller Zeitpläne</translation>
+    </message>
+    <message>
+        <source>Shows or hides the Schedule List, with a row for each schedule of the channel.</source>
+        <translation>Zeigt oder verbirgt die Zeitplanliste mit einer Zeile für jeden Zeitplan des Kanals.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel with the stages</source>
+        <translation>Zeigt oder verbirgt das Feld mit den Szenen</translation>
+    </message>
+    <message>
+        <source>Shows or hides Choose Stage, the panel from which stages are dragged to the time table.</source>
+        <translation>Zeigt oder verbirgt „Szene wählen“; von dort werden Szenen in die Zeittafel gezogen.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel with the times of the selected stage</source>
+        <translation>Zeigt oder verbirgt das Feld mit den Zeiten der ausgewählten Szene</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel in which the start and the end of the selected stage are typed to the second.</source>
+        <translation>Zeigt oder verbirgt das Feld, in dem Beginn und Ende der ausgewählten Szene sekundengenau eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Puts all panels back to their places</source>
+        <translation>Bringt alle Felder an ihre Plätze zurück</translation>
+    </message>
+    <message>
+        <source>Shows all panels at the places and in the sizes that they had at the first start.</source>
+        <translation>Zeigt alle Felder an den Plätzen und in den Größen, die sie beim ersten Start hatten.</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::BackupDialog</name>
     <message>
         <source>Safety Copies</source>
@@ -487,7 +730,7 @@ Bitte prüfen Sie, ob die Datei geschrieben werden kann.</translation>
     </message>
     <message>
         <source>Player and editor are &amp;one machine</source>
-        <translation>Player und Editor sind &amp;eine Maschine</translation>
+        <translation>Player und Editor sind eine &amp;Maschine</translation>
     </message>
     <message>
         <source>Then there is nothing to upload, and the command is disabled. Takes effect at the next start.</source>
@@ -844,6 +1087,54 @@ Do you want to cancel the upload and close?</source>
 
 Möchten Sie das Hochladen abbrechen und schließen?</translation>
     </message>
+    <message>
+        <source>Reads all channel files and the stages they use and lists what is wrong: stages that are missing, time without a stage, bands that overlap, files that are passed over.</source>
+        <translation>Liest alle Kanaldateien und ihre Szenen und listet Fehler auf: fehlende Szenen, Zeit ohne Szene, Zeitblöcke, die sich überschneiden, und übergangene Dateien.</translation>
+    </message>
+    <message>
+        <source>Shows the data folder, the settings of its schedules and the upload targets, each with an explanation, to be changed.</source>
+        <translation>Zeigt den Datenordner, die Einstellungen seiner Zeitpläne und die Ziele für das Hochladen, jeweils mit einer Erklärung, zum Ändern.</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts...</source>
+        <translation>&amp;Tastenkürzel...</translation>
+    </message>
+    <message>
+        <source>Shows and changes the keys of all commands</source>
+        <translation>Zeigt und ändert die Tasten aller Befehle</translation>
+    </message>
+    <message>
+        <source>Lists all commands with their keys. Other keys can be given to each of them; what is already in use is told.</source>
+        <translation>Listet alle Befehle mit ihren Tasten auf. Jedem können andere Tasten gegeben werden; was schon belegt ist, wird gemeldet.</translation>
+    </message>
+    <message>
+        <source>&amp;What&apos;s This?</source>
+        <translation>&amp;Was ist das?</translation>
+    </message>
+    <message>
+        <source>Explains what you click next</source>
+        <translation>Erklärt, was Sie als Nächstes anklicken</translation>
+    </message>
+    <message>
+        <source>Click a command or a part of the window after this, and it is explained. Esc ends it.</source>
+        <translation>Klicken Sie danach auf einen Befehl oder einen Teil des Fensters, und er wird erklärt. Esc bricht ab.</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program and where its data are</source>
+        <translation>Zeigt die Version des Programms und wo seine Daten liegen</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program, of the library it is built on, and the data folder that is open.</source>
+        <translation>Zeigt die Version des Programms, die der Bibliothek, auf der es beruht, und den geöffneten Datenordner.</translation>
+    </message>
+    <message>
+        <source>Shows the version of the library that the program is built on</source>
+        <translation>Zeigt die Version der Bibliothek, auf der das Programm beruht</translation>
+    </message>
+    <message>
+        <source>Tells about Qt, the library that the program is built on.</source>
+        <translation>Informiert über Qt, die Bibliothek, auf der das Programm beruht.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::NoticeBar</name>
@@ -854,6 +1145,14 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Hides this notice</source>
+        <translation>Verbirgt diesen Hinweis</translation>
+    </message>
+    <message>
+        <source>Hides this notice until there is another one.</source>
+        <translation>Verbirgt diesen Hinweis, bis es einen neuen gibt.</translation>
     </message>
 </context>
 <context>
@@ -869,6 +1168,45 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
     <message>
         <source>The channel file &quot;%1&quot; cannot be restored. It is as it was before.</source>
         <translation>Die Kanaldatei „%1“ kann nicht wiederhergestellt werden. Sie ist unverändert.</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::ReservedKeys</name>
+    <message>
+        <source>%1 moves what is selected in the time table.</source>
+        <translation>%1 verschiebt die Auswahl in der Zeittafel.</translation>
+    </message>
+    <message>
+        <source>%1 goes through texts, lists, the calendar and the time table.</source>
+        <translation>%1 bewegt sich durch Texte, Listen, den Kalender und die Zeittafel.</translation>
+    </message>
+    <message>
+        <source>%1 goes from one control to the next.</source>
+        <translation>%1 geht von einem Bedienelement zum nächsten.</translation>
+    </message>
+    <message>
+        <source>%1 presses buttons and checks rows.</source>
+        <translation>%1 drückt Schaltflächen und hakt Zeilen an.</translation>
+    </message>
+    <message>
+        <source>%1 closes menus and dialogs.</source>
+        <translation>%1 schließt Menüs und Dialoge.</translation>
+    </message>
+    <message>
+        <source>%1 is needed to type texts.</source>
+        <translation>%1 wird zum Eingeben von Texten gebraucht.</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu &quot;%2&quot;.</source>
+        <translation>%1 öffnet das Menü „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 edits the name of a channel or a target.</source>
+        <translation>%1 bearbeitet den Namen eines Kanals oder ein Ziel.</translation>
+    </message>
+    <message>
+        <source>These are no keys that can be struck.</source>
+        <translation>Diese Tasten können nicht gedrückt werden.</translation>
     </message>
 </context>
 <context>
@@ -985,10 +1323,6 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
         <translation>Sicherungs&amp;kopien...</translation>
     </message>
     <message>
-        <source>Shows earlier states of the channels and restores one.</source>
-        <translation>Zeigt frühere Stände der Kanäle und stellt einen davon wieder her.</translation>
-    </message>
-    <message>
         <source>Restore Channel</source>
         <translation>Kanal wiederherstellen</translation>
     </message>
@@ -1015,6 +1349,14 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
     <message>
         <source>The file &quot;channel.xml&quot; could not be renewed. The next start would show the first channel as it was before.</source>
         <translation>Die Datei „channel.xml“ konnte nicht erneuert werden. Beim nächsten Start würde der erste Kanal so gezeigt, wie er vorher war.</translation>
+    </message>
+    <message>
+        <source>Shows earlier states of the channels and restores one</source>
+        <translation>Zeigt frühere Stände der Kanäle und stellt einen davon wieder her</translation>
+    </message>
+    <message>
+        <source>Lists the states that each channel file had before it was replaced or removed, with what differs, and brings one back.</source>
+        <translation>Listet die Stände auf, die jede Kanaldatei hatte, bevor sie ersetzt oder entfernt wurde, mit den Unterschieden, und holt einen zurück.</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1436,18 @@ Wenn Sie hochladen, ohne zu speichern, wird der zuletzt gespeicherte Stand hochg
         <source>Close Schedule Editor</source>
         <translation>Zeitplaneditor schließen</translation>
     </message>
+    <message>
+        <source>Closes the schedule editor and asks about unsaved channels</source>
+        <translation>Schließt den Zeitplaneditor und fragt nach nicht gespeicherten Kanälen</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor. You are asked about each channel with changes that are not saved.</source>
+        <translation>Schließt den Zeitplaneditor. Sie werden nach jedem Kanal mit nicht gespeicherten Änderungen gefragt.</translation>
+    </message>
+    <message>
+        <source>More commands</source>
+        <translation>Weitere Befehle</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ScreenshotTaker</name>
@@ -1132,6 +1486,64 @@ Wenn Sie hochladen, ohne zu speichern, wird der zuletzt gespeicherte Stand hochg
 All that was saved before is in the channel files.</source>
         <translation>Die Änderungen seit dem letzten Speichern gingen verloren in: %1.
 Alles, was zuvor gespeichert wurde, steht in den Kanaldateien.</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::ShortcutDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Find a command or a key</source>
+        <translation>Befehl oder Taste suchen</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>&amp;No Keys</source>
+        <translation>K&amp;eine Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;Default</source>
+        <translation>&amp;Vorgabe</translation>
+    </message>
+    <message>
+        <source>&amp;Take It Away</source>
+        <translation>&amp;Wegnehmen</translation>
+    </message>
+    <message>
+        <source>&amp;All to Default</source>
+        <translation>A&amp;lle auf Vorgabe</translation>
+    </message>
+    <message>
+        <source>&amp;Press the keys for &quot;%1&quot;:</source>
+        <translation>&amp;Drücken Sie die Tasten für „%1“:</translation>
+    </message>
+    <message>
+        <source>Choose a command, then press its keys.</source>
+        <translation>Wählen Sie einen Befehl und drücken Sie dann seine Tasten.</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::Shortcuts</name>
+    <message>
+        <source>%1 is the key of &quot;%2&quot; (%3).</source>
+        <translation>%1 ist die Taste von „%2“ (%3).</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1690,10 @@ Möchten Sie diesen löschen und einfügen?</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Schedule of the channel</source>
+        <translation>Zeitplan des Kanals</translation>
     </message>
 </context>
 <context>
@@ -1672,6 +2088,10 @@ Datenordner: %2</translation>
         <source> - None. </source>
         <translation> - keiner. </translation>
     </message>
+    <message>
+        <source>The chosen date or day has no schedule of its own. Click here to create it; only then can stages be dropped.</source>
+        <translation>Das gewählte Datum oder der Wochentag hat keinen eigenen Zeitplan. Klicken Sie hier, um ihn anzulegen; erst dann können Szenen hineingezogen werden.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::WorkingAreaStatusBar</name>
@@ -1716,11 +2136,11 @@ Datenordner: %2</translation>
     </message>
     <message>
         <source>&amp;First Day of Week</source>
-        <translation>&amp;Erster Tag der Woche</translation>
+        <translation>Ers&amp;ter Tag der Woche</translation>
     </message>
     <message>
         <source>C&amp;alendar</source>
-        <translation>&amp;Kalender</translation>
+        <translation>Ka&amp;lender</translation>
     </message>
     <message>
         <source>Move to &amp;Today</source>
@@ -1728,7 +2148,7 @@ Datenordner: %2</translation>
     </message>
     <message>
         <source>Select &amp;Week</source>
-        <translation>&amp;Woche auswählen</translation>
+        <translation>Wo&amp;che auswählen</translation>
     </message>
     <message>
         <source>Select &amp;Month</source>
@@ -1736,7 +2156,7 @@ Datenordner: %2</translation>
     </message>
     <message>
         <source>Clear &amp;Selections</source>
-        <translation>&amp;Auswahl aufheben</translation>
+        <translation>Auswahl aufhe&amp;ben</translation>
     </message>
     <message>
         <source>Show Week &amp;Number</source>
@@ -1757,6 +2177,86 @@ Datenordner: %2</translation>
     <message>
         <source>Schedule of days: </source>
         <translation>Tage mit Zeitplan: </translation>
+    </message>
+    <message>
+        <source>Shows today&apos;s schedule</source>
+        <translation>Zeigt den heutigen Zeitplan</translation>
+    </message>
+    <message>
+        <source>Turns the calendar to the present month and shows the schedule of today&apos;s date.</source>
+        <translation>Blättert den Kalender zum laufenden Monat und zeigt den Zeitplan des heutigen Datums.</translation>
+    </message>
+    <message>
+        <source>Selects the whole week of the selected date</source>
+        <translation>Wählt die ganze Woche des gewählten Datums aus</translation>
+    </message>
+    <message>
+        <source>Selects the seven days of the week of the selected date. Cut, copy, paste and delete then act on all of them.</source>
+        <translation>Wählt die sieben Tage der Woche des gewählten Datums aus. Ausschneiden, Kopieren, Einfügen und Löschen wirken dann auf alle.</translation>
+    </message>
+    <message>
+        <source>Selects the whole month of the selected date</source>
+        <translation>Wählt den ganzen Monat des gewählten Datums aus</translation>
+    </message>
+    <message>
+        <source>Selects all days of the month of the selected date. Cut, copy, paste and delete then act on all of them.</source>
+        <translation>Wählt alle Tage des Monats des gewählten Datums aus. Ausschneiden, Kopieren, Einfügen und Löschen wirken dann auf alle.</translation>
+    </message>
+    <message>
+        <source>Leaves only one date selected</source>
+        <translation>Lässt nur ein Datum ausgewählt</translation>
+    </message>
+    <message>
+        <source>Takes the selection off all dates but the one whose schedule is shown.</source>
+        <translation>Hebt die Auswahl aller Tage auf bis auf den, dessen Zeitplan gezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Chooses the day with which the weeks begin</source>
+        <translation>Wählt den Tag, mit dem die Wochen beginnen</translation>
+    </message>
+    <message>
+        <source>Chooses the day that stands first in the rows of the calendar.</source>
+        <translation>Wählt den Tag, der in den Zeilen des Kalenders vorn steht.</translation>
+    </message>
+    <message>
+        <source>Begins the weeks of the calendar with this day</source>
+        <translation>Lässt die Wochen des Kalenders mit diesem Tag beginnen</translation>
+    </message>
+    <message>
+        <source>Begins the weeks of the calendar with this day, until the editor is closed.</source>
+        <translation>Lässt die Wochen des Kalenders mit diesem Tag beginnen, bis der Editor geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the numbers of the weeks</source>
+        <translation>Zeigt oder verbirgt die Wochennummern</translation>
+    </message>
+    <message>
+        <source>Shows or hides the numbers of the weeks beside the calendar.</source>
+        <translation>Zeigt oder verbirgt die Wochennummern neben dem Kalender.</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Voriger Monat</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Nächster Monat</translation>
+    </message>
+    <message>
+        <source>Menu of the calendar</source>
+        <translation>Menü des Kalenders</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>Click a date to edit its schedule. Ctrl and Shift select several dates for the commands of the edit menu. A frame marks the dates that have a schedule, and green is today.</source>
+        <translation>Klicken Sie auf ein Datum, um dessen Zeitplan zu bearbeiten. Mit Strg und Umschalt wählen Sie mehrere Tage für die Befehle des Menüs „Bearbeiten“ aus. Ein Rahmen kennzeichnet Tage mit Zeitplan, Grün den heutigen.</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +2449,10 @@ Möchten Sie fortfahren?</translation>
         <source>If you set Default Stage, drop the stage into the right box, or select the stage and from the context menu, choose Set As Default Stage.</source>
         <translation>Um die Standardszene festzulegen, ziehen Sie die Szene in das rechte Feld, oder wählen Sie die Szene aus und im Kontextmenü „Als Standardszene festlegen“.</translation>
     </message>
+    <message>
+        <source>The stage that is shown whenever no other one is scheduled. Drop a stage on the box to choose it; the check mark takes it away.</source>
+        <translation>Die Szene, die gezeigt wird, wenn keine andere geplant ist. Ziehen Sie eine Szene in das Feld, um sie festzulegen; über das Häkchen wird sie entfernt.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleDefaultWidget</name>
@@ -1975,6 +2479,10 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>Assigned Stage: </source>
         <translation>Zugewiesene Szenen: </translation>
+    </message>
+    <message>
+        <source>Click here to edit the default schedule. It is used on each day for which neither its date nor its day of the week has a schedule.</source>
+        <translation>Klicken Sie hier, um den Standardzeitplan zu bearbeiten. Er gilt an jedem Tag, für den weder sein Datum noch sein Wochentag einen Zeitplan hat.</translation>
     </message>
 </context>
 <context>
@@ -2158,6 +2666,14 @@ Möchten Sie fortfahren?</translation>
         <source>End Time</source>
         <translation>Ende</translation>
     </message>
+    <message>
+        <source>Assigned Item Property</source>
+        <translation>Eigenschaften des Eintrags</translation>
+    </message>
+    <message>
+        <source>The stage that is selected in the time table, and when it starts and ends. Type a time or step it; the neighbours set the limits.</source>
+        <translation>Die in der Zeittafel ausgewählte Szene mit Beginn und Ende. Geben Sie eine Zeit ein oder ändern Sie sie schrittweise; die Nachbarn setzen die Grenzen.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleListWidget</name>
@@ -2200,6 +2716,26 @@ Möchten Sie fortfahren?</translation>
     <message>
         <source>Channel: %1</source>
         <translation>Kanal: %1</translation>
+    </message>
+    <message>
+        <source>The schedules of the channel. The selected row is the schedule in the time table. The commands of the edit menu act on the checked rows.</source>
+        <translation>Die Zeitpläne des Kanals. Die ausgewählte Zeile ist der Zeitplan in der Zeittafel. Die Befehle des Menüs „Bearbeiten“ wirken auf die angehakten Zeilen.</translation>
+    </message>
+    <message>
+        <source>Creates a schedule for a date or a day of the week</source>
+        <translation>Legt einen Zeitplan für ein Datum oder einen Wochentag an</translation>
+    </message>
+    <message>
+        <source>Asks for a date or a day of the week, creates a schedule for it and shows it. A date or day that has none yet is proposed.</source>
+        <translation>Fragt nach einem Datum oder Wochentag, legt dafür einen Zeitplan an und zeigt ihn. Vorgeschlagen wird einer, der noch keinen hat.</translation>
+    </message>
+    <message>
+        <source>Menu of the schedule list</source>
+        <translation>Menü der Zeitplanliste</translation>
+    </message>
+    <message>
+        <source>Schedules of the channel</source>
+        <translation>Zeitpläne des Kanals</translation>
     </message>
 </context>
 <context>
@@ -2255,6 +2791,18 @@ Bitte prüfen Sie, ob die Datei gelöscht werden kann.</translation>
     <message>
         <source>Change Channel &amp;Name...</source>
         <translation>Kanal&amp;namen ändern...</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Changes the name of the channel in its tab</source>
+        <translation>Ändert den Namen des Kanals in seinem Reiter</translation>
+    </message>
+    <message>
+        <source>Opens the name in the tab for editing. Enter takes the new name over. Two channels cannot have the same name.</source>
+        <translation>Öffnet den Namen im Reiter zum Bearbeiten. Die Eingabetaste übernimmt den neuen Namen. Zwei Kanäle können nicht denselben Namen haben.</translation>
     </message>
 </context>
 <context>
@@ -2332,6 +2880,14 @@ Bitte geben Sie ein anderes Datum an.</translation>
         <source>Stage List</source>
         <translation>Szenenliste</translation>
     </message>
+    <message>
+        <source>Choose Stage</source>
+        <translation>Szene wählen</translation>
+    </message>
+    <message>
+        <source>The stages of the data folder. Drag one or several to the time table, or one to the box of the default stage above it.</source>
+        <translation>Die Szenen des Datenordners. Ziehen Sie eine oder mehrere in die Zeittafel oder eine in das Feld der Standardszene darüber.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleStageListView</name>
@@ -2373,6 +2929,22 @@ Der Vorgang wurde abgebrochen.</translation>
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
+    <message>
+        <source>Shows this stage whenever no other one is scheduled</source>
+        <translation>Zeigt diese Szene, wenn keine andere geplant ist</translation>
+    </message>
+    <message>
+        <source>Makes the selected stage the default stage of the schedule in the time table. It fills all time without a stage.</source>
+        <translation>Macht die ausgewählte Szene zur Standardszene des Zeitplans in der Zeittafel. Sie füllt alle Zeit ohne Szene.</translation>
+    </message>
+    <message>
+        <source>Shows this stage anew at a regular interval</source>
+        <translation>Zeigt diese Szene in regelmäßigen Abständen neu</translation>
+    </message>
+    <message>
+        <source>Asks for an interval and fills the schedule in the time table so that the selected stage takes turns with a copy of itself. The stages that were there are replaced.</source>
+        <translation>Fragt nach einem Intervall und füllt den Zeitplan in der Zeittafel so, dass sich die ausgewählte Szene mit einer Kopie ihrer selbst abwechselt. Die bisherigen Szenen werden ersetzt.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleSwitcherWidget</name>
@@ -2380,12 +2952,24 @@ Der Vorgang wurde abgebrochen.</translation>
         <source>Schedule of days: None</source>
         <translation>Tage mit Zeitplan: keine</translation>
     </message>
+    <message>
+        <source>Switch Schedule</source>
+        <translation>Zeitplan wechseln</translation>
+    </message>
+    <message>
+        <source>Chooses the schedule in the time table: that of a date in the calendar, that of a day of the week, or the default one. The bar at the left edge marks the chosen kind.</source>
+        <translation>Wählt den Zeitplan in der Zeittafel: den eines Datums im Kalender, den eines Wochentags oder den Standardzeitplan. Der Balken am linken Rand kennzeichnet die gewählte Art.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleTabWidget</name>
     <message>
         <source>&lt;span style=&quot;font-weight:bold;&quot;&gt;You can not move the first tab.&lt;/span&gt;</source>
         <translation>&lt;span style=&quot;font-weight:bold;&quot;&gt;Der erste Reiter kann nicht verschoben werden.&lt;/span&gt;</translation>
+    </message>
+    <message>
+        <source>Name of the channel</source>
+        <translation>Name des Kanals</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2997,10 @@ Der Vorgang wurde abgebrochen.</translation>
         <source>Scheduled to be executed on %1 (%2)</source>
         <translation>Ausführung geplant am %1 (%2)</translation>
     </message>
+    <message>
+        <source>Tells which schedule is used on the selected date: that of the date itself, else that of its day of the week, else the default schedule.</source>
+        <translation>Sagt, welcher Zeitplan am gewählten Datum gilt: der des Datums selbst, sonst der seines Wochentags, sonst der Standardzeitplan.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvTimeSpinWidget</name>
@@ -2427,6 +3015,18 @@ Der Vorgang wurde abgebrochen.</translation>
     <message>
         <source>s</source>
         <translation>s</translation>
+    </message>
+    <message>
+        <source>%1, hours</source>
+        <translation>%1, Stunden</translation>
+    </message>
+    <message>
+        <source>%1, minutes</source>
+        <translation>%1, Minuten</translation>
+    </message>
+    <message>
+        <source>%1, seconds</source>
+        <translation>%1, Sekunden</translation>
     </message>
 </context>
 <context>
@@ -2454,6 +3054,14 @@ Der Vorgang wurde abgebrochen.</translation>
         <source>This schedule does not exist.</source>
         <translation>Diesen Zeitplan gibt es nicht.</translation>
     </message>
+    <message>
+        <source>Time table</source>
+        <translation>Zeittafel</translation>
+    </message>
+    <message>
+        <source>The day of the schedule, from 0 to 24 o&apos;clock. Stages are dropped here, dragged, and made longer or shorter at their edges. Ctrl adds to the selection, and the arrow keys move what is selected.</source>
+        <translation>Der Tag des Zeitplans, von 0 bis 24 Uhr. Szenen werden hier abgelegt, verschoben und an ihren Rändern verlängert oder verkürzt. Strg erweitert die Auswahl, und die Pfeiltasten verschieben sie.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvTodayWidget</name>
@@ -2465,12 +3073,20 @@ Der Vorgang wurde abgebrochen.</translation>
         <source>Move to Today</source>
         <translation>Zu heute wechseln</translation>
     </message>
+    <message>
+        <source>Today&apos;s date. Click it to turn the calendar to today and show the schedule of that date.</source>
+        <translation>Das heutige Datum. Ein Klick blättert den Kalender zu heute und zeigt den Zeitplan dieses Datums.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvWeekWidget</name>
     <message>
         <source>Schedule for Each Day of Week</source>
         <translation>Zeitpläne der Wochentage</translation>
+    </message>
+    <message>
+        <source>Click a day to edit the schedule that is used on that day of every week. A frame marks the days that have one. A schedule of a date goes before it.</source>
+        <translation>Klicken Sie auf einen Tag, um den Zeitplan zu bearbeiten, der jede Woche an diesem Tag gilt. Ein Rahmen kennzeichnet die Tage, die einen haben. Der Zeitplan eines Datums geht vor.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,249 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>Zavo::ActionHelp</name>
+    <message>
+        <source>Saves the channel of the current tab</source>
+        <translation>Enregistre le canal de l’onglet actif</translation>
+    </message>
+    <message>
+        <source>Writes the channel of the current tab to its file. The file is replaced in one step, so that it is never half-written.</source>
+        <translation>Écrit le canal de l’onglet actif dans son fichier. Le fichier est remplacé en une seule étape&#xa0;: il n’est jamais à moitié écrit.</translation>
+    </message>
+    <message>
+        <source>Saves the channels of all tabs</source>
+        <translation>Enregistre les canaux de tous les onglets</translation>
+    </message>
+    <message>
+        <source>Writes the channel of each tab to its file.</source>
+        <translation>Écrit le canal de chaque onglet dans son fichier.</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor and asks about unsaved channels</source>
+        <translation>Ferme l’éditeur de grilles et signale les canaux non enregistrés</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor. You are asked about each channel with changes that are not saved.</source>
+        <translation>Ferme l’éditeur de grilles. Une question est posée pour chaque canal aux modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>Ends the program and asks about unsaved channels</source>
+        <translation>Quitte le programme et signale les canaux non enregistrés</translation>
+    </message>
+    <message>
+        <source>Ends the program. You are asked about each channel with changes that are not saved.</source>
+        <translation>Quitte le programme. Une question est posée pour chaque canal aux modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of this channel</source>
+        <translation>Annule la dernière modification de ce canal</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of the channel of the current tab, and shows the schedule that it was made in. Each channel has a history of its own.</source>
+        <translation>Annule la dernière modification du canal de l’onglet actif et affiche la grille où elle a été faite. Chaque canal a son propre historique.</translation>
+    </message>
+    <message>
+        <source>Makes the change again that was undone last</source>
+        <translation>Refait la dernière modification annulée</translation>
+    </message>
+    <message>
+        <source>Makes the change of this channel again that was undone last, and shows the schedule that it belongs to.</source>
+        <translation>Refait la dernière modification annulée de ce canal et affiche la grille concernée.</translation>
+    </message>
+    <message>
+        <source>Moves the selection to the clipboard</source>
+        <translation>Déplace la sélection vers le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Moves what is selected to the clipboard: stages in the time table, dates or a day of the week in Switch Schedule, or the checked rows of the Schedule List. What you used last counts.</source>
+        <translation>Déplace la sélection vers le presse-papiers&#xa0;: des scènes du tableau horaire, des dates ou un jour de semaine de «&#xa0;Changer de grille&#xa0;», ou les lignes cochées de la liste des grilles. C’est le dernier panneau utilisé qui compte.</translation>
+    </message>
+    <message>
+        <source>Copies the selection to the clipboard</source>
+        <translation>Copie la sélection dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Copies what is selected to the clipboard: stages in the time table, whole schedules in Switch Schedule, or the checked rows of the Schedule List. What you used last counts.</source>
+        <translation>Copie la sélection dans le presse-papiers&#xa0;: des scènes du tableau horaire, des grilles entières de «&#xa0;Changer de grille&#xa0;», ou les lignes cochées de la liste des grilles. C’est le dernier panneau utilisé qui compte.</translation>
+    </message>
+    <message>
+        <source>Inserts what is on the clipboard</source>
+        <translation>Insère le contenu du presse-papiers</translation>
+    </message>
+    <message>
+        <source>Inserts stages into the time table, or schedules at the selected date or day. You are asked before a schedule is replaced.</source>
+        <translation>Insère des scènes dans le tableau horaire, ou des grilles à la date ou au jour sélectionné. Une question est posée avant de remplacer une grille.</translation>
+    </message>
+    <message>
+        <source>Deletes the selection</source>
+        <translation>Supprime la sélection</translation>
+    </message>
+    <message>
+        <source>Deletes what is selected: stages in the time table, schedules in Switch Schedule, or the checked rows of the Schedule List. The default schedule cannot be deleted.</source>
+        <translation>Supprime la sélection&#xa0;: des scènes du tableau horaire, des grilles de «&#xa0;Changer de grille&#xa0;», ou les lignes cochées de la liste des grilles. La grille par défaut ne peut pas être supprimée.</translation>
+    </message>
+    <message>
+        <source>Selects everything in the time table or the Schedule List</source>
+        <translation>Sélectionne tout dans le tableau horaire ou la liste des grilles</translation>
+    </message>
+    <message>
+        <source>Selects all stages of the time table, or checks all rows of the Schedule List, whichever you used last.</source>
+        <translation>Sélectionne toutes les scènes du tableau horaire ou coche toutes les lignes de la liste des grilles, selon ce que vous avez utilisé en dernier.</translation>
+    </message>
+    <message>
+        <source>Selects nothing in the time table or the Schedule List</source>
+        <translation>Désélectionne tout dans le tableau horaire ou la liste des grilles</translation>
+    </message>
+    <message>
+        <source>Takes the selection off all stages of the time table, or the check marks off all rows of the Schedule List, whichever you used last.</source>
+        <translation>Désélectionne toutes les scènes du tableau horaire ou décoche toutes les lignes de la liste des grilles, selon ce que vous avez utilisé en dernier.</translation>
+    </message>
+    <message>
+        <source>Sends the channels and their stages to the displays</source>
+        <translation>Envoie les canaux et leurs scènes aux écrans</translation>
+    </message>
+    <message>
+        <source>Opens the upload manager, which sends the saved channels and the stages they use to the upload targets. You are asked about unsaved channels first.</source>
+        <translation>Ouvre la fenêtre d’envoi, qui envoie les canaux enregistrés et leurs scènes aux destinations. Auparavant, les canaux non enregistrés vous sont signalés.</translation>
+    </message>
+    <message>
+        <source>Exports the channel of the current tab to a file</source>
+        <translation>Exporte le canal de l’onglet actif dans un fichier</translation>
+    </message>
+    <message>
+        <source>Exports the channel of the current tab, as it was saved last, to a file that other programs can read.</source>
+        <translation>Exporte le canal de l’onglet actif, tel qu’il a été enregistré en dernier, dans un fichier lisible par d’autres programmes.</translation>
+    </message>
+    <message>
+        <source>Opens the log of the last upload</source>
+        <translation>Ouvre le journal du dernier envoi</translation>
+    </message>
+    <message>
+        <source>Opens the log that tells how the last upload went.</source>
+        <translation>Ouvre le journal qui relate le dernier envoi.</translation>
+    </message>
+    <message>
+        <source>Opens the folder with the logs of the uploads</source>
+        <translation>Ouvre le dossier des journaux d’envoi</translation>
+    </message>
+    <message>
+        <source>Opens the folder with the logs of the last upload and of those before.</source>
+        <translation>Ouvre le dossier des journaux du dernier envoi et des précédents.</translation>
+    </message>
+    <message>
+        <source>Creates the schedule that is chosen in Switch Schedule</source>
+        <translation>Crée la grille choisie dans «&#xa0;Changer de grille&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Creates a schedule for the date or the day of the week that is chosen in Switch Schedule, if it has none. Stages can be dropped only on a schedule that exists.</source>
+        <translation>Crée une grille pour la date ou le jour de semaine choisi dans «&#xa0;Changer de grille&#xa0;», s’il n’en a pas. On ne peut déposer des scènes que sur une grille existante.</translation>
+    </message>
+    <message>
+        <source>Deletes the schedule that is shown</source>
+        <translation>Supprime la grille affichée</translation>
+    </message>
+    <message>
+        <source>Deletes the schedule in the time table with all its stages, after a question. The default schedule cannot be deleted.</source>
+        <translation>Supprime, après confirmation, la grille du tableau horaire avec toutes ses scènes. La grille par défaut ne peut pas être supprimée.</translation>
+    </message>
+    <message>
+        <source>Changes the name of the channel in its tab</source>
+        <translation>Modifie le nom du canal dans son onglet</translation>
+    </message>
+    <message>
+        <source>Opens the name in the current tab for editing. Enter takes the new name over. Two channels cannot have the same name.</source>
+        <translation>Ouvre le nom dans l’onglet actif pour le modifier. Entrée valide le nouveau nom. Deux canaux ne peuvent pas porter le même nom.</translation>
+    </message>
+    <message>
+        <source>Moves the tab of the channel to another place</source>
+        <translation>Déplace l’onglet du canal à une autre place</translation>
+    </message>
+    <message>
+        <source>Moves the current tab to the place of another one. The first channel keeps its place. This cannot be undone.</source>
+        <translation>Déplace l’onglet actif à la place d’un autre. Le premier canal garde sa place. Cette opération est irréversible.</translation>
+    </message>
+    <message>
+        <source>Adds a channel with an empty default schedule</source>
+        <translation>Ajoute un canal avec une grille par défaut vide</translation>
+    </message>
+    <message>
+        <source>Adds a channel with an empty default schedule behind the last tab. Its file is written at once.</source>
+        <translation>Ajoute après le dernier onglet un canal avec une grille par défaut vide. Son fichier est écrit aussitôt.</translation>
+    </message>
+    <message>
+        <source>Deletes the channel of the current tab with its file</source>
+        <translation>Supprime le canal de l’onglet actif avec son fichier</translation>
+    </message>
+    <message>
+        <source>Deletes the channel of the current tab with its file, after a question. The first channel cannot be deleted. This cannot be undone.</source>
+        <translation>Supprime, après confirmation, le canal de l’onglet actif avec son fichier. Le premier canal ne peut pas être supprimé. Cette opération est irréversible.</translation>
+    </message>
+    <message>
+        <source>Deletes all channels and closes the editor</source>
+        <translation>Supprime tous les canaux et ferme l’éditeur</translation>
+    </message>
+    <message>
+        <source>Deletes every channel file and the settings of the channels, after a question, and closes the editor. The next start begins with ten empty channels. This cannot be undone.</source>
+        <translation>Supprime, après confirmation, tous les fichiers de canal et les réglages des canaux, puis ferme l’éditeur. Le prochain démarrage commence avec dix canaux vides. Cette opération est irréversible.</translation>
+    </message>
+    <message>
+        <source>Shows the id, place and number of schedules of the channel</source>
+        <translation>Affiche l’identifiant, la place et le nombre de grilles du canal</translation>
+    </message>
+    <message>
+        <source>Shows the id, the name and the place of the current channel, and how many schedules of each kind it has.</source>
+        <translation>Affiche l’identifiant, le nom et la place du canal actuel, et le nombre de grilles de chaque type.</translation>
+    </message>
+    <message>
+        <source>Chooses which channels are uploaded</source>
+        <translation>Choisit les canaux à envoyer</translation>
+    </message>
+    <message>
+        <source>Lists the saved channels and chooses which of them are uploaded.</source>
+        <translation>Liste les canaux enregistrés et permet de choisir ceux qui sont envoyés.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel for choosing a schedule</source>
+        <translation>Affiche ou masque le panneau de choix de la grille</translation>
+    </message>
+    <message>
+        <source>Shows or hides Switch Schedule, the panel where you choose which schedule is in the time table: that of a date, of a day of the week, or the default one.</source>
+        <translation>Affiche ou masque «&#xa0;Changer de grille&#xa0;», le panneau où l’on choisit la grille du tableau horaire&#xa0;: celle d’une date, d’un jour de semaine, ou celle par défaut.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of all schedules</source>
+        <translation>Affiche ou masque la liste de toutes les grilles</translation>
+    </message>
+    <message>
+        <source>Shows or hides the Schedule List, with a row for each schedule of the channel.</source>
+        <translation>Affiche ou masque la liste des grilles, avec une ligne pour chaque grille du canal.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel with the stages</source>
+        <translation>Affiche ou masque le panneau des scènes</translation>
+    </message>
+    <message>
+        <source>Shows or hides Choose Stage, the panel from which stages are dragged to the time table.</source>
+        <translation>Affiche ou masque «&#xa0;Choisir une scène&#xa0;», le panneau d’où l’on fait glisser les scènes vers le tableau horaire.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel with the times of the selected stage</source>
+        <translation>Affiche ou masque le panneau des heures de la scène sélectionnée</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel in which the start and the end of the selected stage are typed to the second.</source>
+        <translation>Affiche ou masque le panneau où le début et la fin de la scène sélectionnée se saisissent à la seconde.</translation>
+    </message>
+    <message>
+        <source>Puts all panels back to their places</source>
+        <translation>Remet tous les panneaux à leur place</translation>
+    </message>
+    <message>
+        <source>Shows all panels at the places and in the sizes that they had at the first start.</source>
+        <translation>Affiche tous les panneaux aux places et dans les tailles du premier démarrage.</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::BackupDialog</name>
     <message>
         <source>Safety Copies</source>
@@ -487,7 +730,7 @@ Vérifiez que le fichier est accessible en écriture.</translation>
     </message>
     <message>
         <source>Player and editor are &amp;one machine</source>
-        <translation>Le lecteur et l’éditeur sont la même &amp;machine</translation>
+        <translation>Le lecteur et l’éditeur sont &amp;la même machine</translation>
     </message>
     <message>
         <source>Then there is nothing to upload, and the command is disabled. Takes effect at the next start.</source>
@@ -844,6 +1087,54 @@ Do you want to cancel the upload and close?</source>
 
 Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
     </message>
+    <message>
+        <source>Reads all channel files and the stages they use and lists what is wrong: stages that are missing, time without a stage, bands that overlap, files that are passed over.</source>
+        <translation>Lit tous les fichiers de canal et leurs scènes et liste les anomalies&#xa0;: scènes manquantes, temps sans scène, plages qui se chevauchent, fichiers ignorés.</translation>
+    </message>
+    <message>
+        <source>Shows the data folder, the settings of its schedules and the upload targets, each with an explanation, to be changed.</source>
+        <translation>Affiche, avec une explication, le dossier de données, les réglages de ses grilles et les destinations d’envoi, pour les modifier.</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts...</source>
+        <translation>&amp;Raccourcis clavier...</translation>
+    </message>
+    <message>
+        <source>Shows and changes the keys of all commands</source>
+        <translation>Affiche et modifie les touches de toutes les commandes</translation>
+    </message>
+    <message>
+        <source>Lists all commands with their keys. Other keys can be given to each of them; what is already in use is told.</source>
+        <translation>Liste toutes les commandes avec leurs touches. On peut en attribuer d’autres à chacune&#xa0;; celles qui sont déjà prises sont signalées.</translation>
+    </message>
+    <message>
+        <source>&amp;What&apos;s This?</source>
+        <translation>&amp;Qu’est-ce que c’est&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Explains what you click next</source>
+        <translation>Explique ce sur quoi vous cliquez ensuite</translation>
+    </message>
+    <message>
+        <source>Click a command or a part of the window after this, and it is explained. Esc ends it.</source>
+        <translation>Cliquez ensuite sur une commande ou une partie de la fenêtre pour obtenir son explication. Échap met fin à ce mode.</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program and where its data are</source>
+        <translation>Affiche la version du programme et l’emplacement de ses données</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program, of the library it is built on, and the data folder that is open.</source>
+        <translation>Affiche la version du programme, celle de la bibliothèque sur laquelle il repose et le dossier de données ouvert.</translation>
+    </message>
+    <message>
+        <source>Shows the version of the library that the program is built on</source>
+        <translation>Affiche la version de la bibliothèque sur laquelle repose le programme</translation>
+    </message>
+    <message>
+        <source>Tells about Qt, the library that the program is built on.</source>
+        <translation>Informe sur Qt, la bibliothèque sur laquelle repose le programme.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::NoticeBar</name>
@@ -854,6 +1145,14 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Hides this notice</source>
+        <translation>Masque cet avis</translation>
+    </message>
+    <message>
+        <source>Hides this notice until there is another one.</source>
+        <translation>Masque cet avis jusqu’au prochain.</translation>
     </message>
 </context>
 <context>
@@ -869,6 +1168,45 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
     <message>
         <source>The channel file &quot;%1&quot; cannot be restored. It is as it was before.</source>
         <translation>Le fichier de canal «&#xa0;%1&#xa0;» ne peut pas être restauré. Il reste inchangé.</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::ReservedKeys</name>
+    <message>
+        <source>%1 moves what is selected in the time table.</source>
+        <translation>%1 déplace la sélection dans le tableau horaire.</translation>
+    </message>
+    <message>
+        <source>%1 goes through texts, lists, the calendar and the time table.</source>
+        <translation>%1 parcourt les textes, les listes, le calendrier et le tableau horaire.</translation>
+    </message>
+    <message>
+        <source>%1 goes from one control to the next.</source>
+        <translation>%1 passe d’un élément au suivant.</translation>
+    </message>
+    <message>
+        <source>%1 presses buttons and checks rows.</source>
+        <translation>%1 actionne les boutons et coche les lignes.</translation>
+    </message>
+    <message>
+        <source>%1 closes menus and dialogs.</source>
+        <translation>%1 ferme les menus et les dialogues.</translation>
+    </message>
+    <message>
+        <source>%1 is needed to type texts.</source>
+        <translation>%1 est nécessaire pour saisir du texte.</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu &quot;%2&quot;.</source>
+        <translation>%1 ouvre le menu «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>%1 edits the name of a channel or a target.</source>
+        <translation>%1 modifie le nom d’un canal ou une destination.</translation>
+    </message>
+    <message>
+        <source>These are no keys that can be struck.</source>
+        <translation>Ces touches ne peuvent pas être frappées.</translation>
     </message>
 </context>
 <context>
@@ -985,10 +1323,6 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
         <translation>Copies de &amp;sécurité...</translation>
     </message>
     <message>
-        <source>Shows earlier states of the channels and restores one.</source>
-        <translation>Affiche les états antérieurs des canaux et en restaure un.</translation>
-    </message>
-    <message>
         <source>Restore Channel</source>
         <translation>Restaurer le canal</translation>
     </message>
@@ -1015,6 +1349,14 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
     <message>
         <source>The file &quot;channel.xml&quot; could not be renewed. The next start would show the first channel as it was before.</source>
         <translation>Le fichier «&#xa0;channel.xml&#xa0;» n’a pas pu être renouvelé. Au prochain démarrage, le premier canal s’afficherait tel qu’il était auparavant.</translation>
+    </message>
+    <message>
+        <source>Shows earlier states of the channels and restores one</source>
+        <translation>Affiche les états antérieurs des canaux et en restaure un</translation>
+    </message>
+    <message>
+        <source>Lists the states that each channel file had before it was replaced or removed, with what differs, and brings one back.</source>
+        <translation>Liste les états de chaque fichier de canal avant son remplacement ou sa suppression, avec leurs différences, et en rétablit un.</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1436,18 @@ Si vous envoyez sans enregistrer, ce sont les données enregistrées précédemm
         <source>Close Schedule Editor</source>
         <translation>Fermer l’éditeur de grilles</translation>
     </message>
+    <message>
+        <source>Closes the schedule editor and asks about unsaved channels</source>
+        <translation>Ferme l’éditeur de grilles et signale les canaux non enregistrés</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor. You are asked about each channel with changes that are not saved.</source>
+        <translation>Ferme l’éditeur de grilles. Une question est posée pour chaque canal aux modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>More commands</source>
+        <translation>Autres commandes</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ScreenshotTaker</name>
@@ -1132,6 +1486,64 @@ Si vous envoyez sans enregistrer, ce sont les données enregistrées précédemm
 All that was saved before is in the channel files.</source>
         <translation>Les modifications faites depuis le dernier enregistrement sont perdues dans&#xa0;: %1.
 Tout ce qui avait été enregistré se trouve dans les fichiers de canal.</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::ShortcutDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Find a command or a key</source>
+        <translation>Rechercher une commande ou une touche</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>&amp;No Keys</source>
+        <translation>Aucune &amp;touche</translation>
+    </message>
+    <message>
+        <source>&amp;Default</source>
+        <translation>Par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>&amp;Take It Away</source>
+        <translation>Reti&amp;rer</translation>
+    </message>
+    <message>
+        <source>&amp;All to Default</source>
+        <translation>T&amp;out par défaut</translation>
+    </message>
+    <message>
+        <source>&amp;Press the keys for &quot;%1&quot;:</source>
+        <translation>A&amp;ppuyez sur les touches de «&#xa0;%1&#xa0;»&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Choose a command, then press its keys.</source>
+        <translation>Choisissez une commande, puis appuyez sur ses touches.</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::Shortcuts</name>
+    <message>
+        <source>%1 is the key of &quot;%2&quot; (%3).</source>
+        <translation>%1 est la touche de «&#xa0;%2&#xa0;» (%3).</translation>
     </message>
 </context>
 <context>
@@ -1278,6 +1690,10 @@ Voulez-vous la supprimer et coller&#xa0;?</translation>
     <message>
         <source>Error</source>
         <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Schedule of the channel</source>
+        <translation>Grille du canal</translation>
     </message>
 </context>
 <context>
@@ -1588,7 +2004,7 @@ Voulez-vous la supprimer et coller&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Add...</source>
-        <translation>A&amp;jouter...</translation>
+        <translation>Ajou&amp;ter...</translation>
     </message>
     <message>
         <source>Enter a new target</source>
@@ -1672,6 +2088,10 @@ Dossier de données&#xa0;: %2</translation>
         <source> - None. </source>
         <translation> - aucune. </translation>
     </message>
+    <message>
+        <source>The chosen date or day has no schedule of its own. Click here to create it; only then can stages be dropped.</source>
+        <translation>La date ou le jour choisi n’a pas de grille propre. Cliquez ici pour la créer&#xa0;; alors seulement on peut y déposer des scènes.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::WorkingAreaStatusBar</name>
@@ -1720,15 +2140,15 @@ Dossier de données&#xa0;: %2</translation>
     </message>
     <message>
         <source>C&amp;alendar</source>
-        <translation>C&amp;alendrier</translation>
+        <translation>Ca&amp;lendrier</translation>
     </message>
     <message>
         <source>Move to &amp;Today</source>
-        <translation>&amp;Aller à aujourd’hui</translation>
+        <translation>Aller à au&amp;jourd’hui</translation>
     </message>
     <message>
         <source>Select &amp;Week</source>
-        <translation>Sélectionner la &amp;semaine</translation>
+        <translation>Sélectionner la s&amp;emaine</translation>
     </message>
     <message>
         <source>Select &amp;Month</source>
@@ -1736,7 +2156,7 @@ Dossier de données&#xa0;: %2</translation>
     </message>
     <message>
         <source>Clear &amp;Selections</source>
-        <translation>&amp;Effacer la sélection</translation>
+        <translation>E&amp;ffacer la sélection</translation>
     </message>
     <message>
         <source>Show Week &amp;Number</source>
@@ -1757,6 +2177,86 @@ Dossier de données&#xa0;: %2</translation>
     <message>
         <source>Schedule of days: </source>
         <translation>Jours avec grille&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Shows today&apos;s schedule</source>
+        <translation>Affiche la grille d’aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Turns the calendar to the present month and shows the schedule of today&apos;s date.</source>
+        <translation>Ramène le calendrier au mois en cours et affiche la grille d’aujourd’hui.</translation>
+    </message>
+    <message>
+        <source>Selects the whole week of the selected date</source>
+        <translation>Sélectionne toute la semaine de la date sélectionnée</translation>
+    </message>
+    <message>
+        <source>Selects the seven days of the week of the selected date. Cut, copy, paste and delete then act on all of them.</source>
+        <translation>Sélectionne les sept jours de la semaine de la date sélectionnée. Couper, copier, coller et supprimer agissent alors sur tous.</translation>
+    </message>
+    <message>
+        <source>Selects the whole month of the selected date</source>
+        <translation>Sélectionne tout le mois de la date sélectionnée</translation>
+    </message>
+    <message>
+        <source>Selects all days of the month of the selected date. Cut, copy, paste and delete then act on all of them.</source>
+        <translation>Sélectionne tous les jours du mois de la date sélectionnée. Couper, copier, coller et supprimer agissent alors sur tous.</translation>
+    </message>
+    <message>
+        <source>Leaves only one date selected</source>
+        <translation>Ne laisse qu’une date sélectionnée</translation>
+    </message>
+    <message>
+        <source>Takes the selection off all dates but the one whose schedule is shown.</source>
+        <translation>Désélectionne toutes les dates sauf celle dont la grille est affichée.</translation>
+    </message>
+    <message>
+        <source>Chooses the day with which the weeks begin</source>
+        <translation>Choisit le jour qui commence les semaines</translation>
+    </message>
+    <message>
+        <source>Chooses the day that stands first in the rows of the calendar.</source>
+        <translation>Choisit le jour placé en tête des lignes du calendrier.</translation>
+    </message>
+    <message>
+        <source>Begins the weeks of the calendar with this day</source>
+        <translation>Commence les semaines du calendrier par ce jour</translation>
+    </message>
+    <message>
+        <source>Begins the weeks of the calendar with this day, until the editor is closed.</source>
+        <translation>Commence les semaines du calendrier par ce jour, jusqu’à la fermeture de l’éditeur.</translation>
+    </message>
+    <message>
+        <source>Shows or hides the numbers of the weeks</source>
+        <translation>Affiche ou masque les numéros de semaine</translation>
+    </message>
+    <message>
+        <source>Shows or hides the numbers of the weeks beside the calendar.</source>
+        <translation>Affiche ou masque les numéros de semaine à côté du calendrier.</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Mois précédent</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Mois suivant</translation>
+    </message>
+    <message>
+        <source>Menu of the calendar</source>
+        <translation>Menu du calendrier</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Année</translation>
+    </message>
+    <message>
+        <source>Click a date to edit its schedule. Ctrl and Shift select several dates for the commands of the edit menu. A frame marks the dates that have a schedule, and green is today.</source>
+        <translation>Cliquez sur une date pour modifier sa grille. Ctrl et Maj sélectionnent plusieurs dates pour les commandes du menu Édition. Un cadre marque les dates qui ont une grille, le vert marque aujourd’hui.</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendrier</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +2449,10 @@ Voulez-vous continuer&#xa0;?</translation>
         <source>If you set Default Stage, drop the stage into the right box, or select the stage and from the context menu, choose Set As Default Stage.</source>
         <translation>Pour définir la scène par défaut, déposez la scène dans la case de droite, ou sélectionnez-la et choisissez «&#xa0;Définir comme scène par défaut&#xa0;» dans le menu contextuel.</translation>
     </message>
+    <message>
+        <source>The stage that is shown whenever no other one is scheduled. Drop a stage on the box to choose it; the check mark takes it away.</source>
+        <translation>La scène affichée quand aucune autre n’est planifiée. Déposez une scène sur la case pour la choisir&#xa0;; la coche la retire.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleDefaultWidget</name>
@@ -1975,6 +2479,10 @@ Voulez-vous continuer&#xa0;?</translation>
     <message>
         <source>Assigned Stage: </source>
         <translation>Scènes affectées&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Click here to edit the default schedule. It is used on each day for which neither its date nor its day of the week has a schedule.</source>
+        <translation>Cliquez ici pour modifier la grille par défaut. Elle vaut chaque jour pour lequel ni la date ni le jour de semaine n’a de grille.</translation>
     </message>
 </context>
 <context>
@@ -2158,6 +2666,14 @@ Voulez-vous continuer&#xa0;?</translation>
         <source>End Time</source>
         <translation>Fin</translation>
     </message>
+    <message>
+        <source>Assigned Item Property</source>
+        <translation>Propriétés de l’élément</translation>
+    </message>
+    <message>
+        <source>The stage that is selected in the time table, and when it starts and ends. Type a time or step it; the neighbours set the limits.</source>
+        <translation>La scène sélectionnée dans le tableau horaire, avec son début et sa fin. Saisissez une heure ou modifiez-la pas à pas&#xa0;; les voisines fixent les limites.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleListWidget</name>
@@ -2200,6 +2716,26 @@ Voulez-vous continuer&#xa0;?</translation>
     <message>
         <source>Channel: %1</source>
         <translation>Canal&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The schedules of the channel. The selected row is the schedule in the time table. The commands of the edit menu act on the checked rows.</source>
+        <translation>Les grilles du canal. La ligne sélectionnée est la grille du tableau horaire. Les commandes du menu Édition agissent sur les lignes cochées.</translation>
+    </message>
+    <message>
+        <source>Creates a schedule for a date or a day of the week</source>
+        <translation>Crée une grille pour une date ou un jour de semaine</translation>
+    </message>
+    <message>
+        <source>Asks for a date or a day of the week, creates a schedule for it and shows it. A date or day that has none yet is proposed.</source>
+        <translation>Demande une date ou un jour de semaine, crée sa grille et l’affiche. Une date ou un jour sans grille est proposé.</translation>
+    </message>
+    <message>
+        <source>Menu of the schedule list</source>
+        <translation>Menu de la liste des grilles</translation>
+    </message>
+    <message>
+        <source>Schedules of the channel</source>
+        <translation>Grilles du canal</translation>
     </message>
 </context>
 <context>
@@ -2255,6 +2791,18 @@ Vérifiez qu’il est possible de supprimer le fichier.</translation>
     <message>
         <source>Change Channel &amp;Name...</source>
         <translation>Modifier le &amp;nom du canal...</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canaux</translation>
+    </message>
+    <message>
+        <source>Changes the name of the channel in its tab</source>
+        <translation>Modifie le nom du canal dans son onglet</translation>
+    </message>
+    <message>
+        <source>Opens the name in the tab for editing. Enter takes the new name over. Two channels cannot have the same name.</source>
+        <translation>Ouvre le nom dans l’onglet pour le modifier. Entrée valide le nouveau nom. Deux canaux ne peuvent pas porter le même nom.</translation>
     </message>
 </context>
 <context>
@@ -2332,6 +2880,14 @@ Indiquez une autre date.</translation>
         <source>Stage List</source>
         <translation>Liste des scènes</translation>
     </message>
+    <message>
+        <source>Choose Stage</source>
+        <translation>Choisir une scène</translation>
+    </message>
+    <message>
+        <source>The stages of the data folder. Drag one or several to the time table, or one to the box of the default stage above it.</source>
+        <translation>Les scènes du dossier de données. Faites-en glisser une ou plusieurs vers le tableau horaire, ou une vers la case de la scène par défaut au-dessus.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleStageListView</name>
@@ -2373,6 +2929,22 @@ Le traitement a été interrompu.</translation>
         <source>Error</source>
         <translation>Erreur</translation>
     </message>
+    <message>
+        <source>Shows this stage whenever no other one is scheduled</source>
+        <translation>Affiche cette scène quand aucune autre n’est planifiée</translation>
+    </message>
+    <message>
+        <source>Makes the selected stage the default stage of the schedule in the time table. It fills all time without a stage.</source>
+        <translation>Fait de la scène sélectionnée la scène par défaut de la grille du tableau horaire. Elle remplit tout le temps sans scène.</translation>
+    </message>
+    <message>
+        <source>Shows this stage anew at a regular interval</source>
+        <translation>Affiche de nouveau cette scène à intervalles réguliers</translation>
+    </message>
+    <message>
+        <source>Asks for an interval and fills the schedule in the time table so that the selected stage takes turns with a copy of itself. The stages that were there are replaced.</source>
+        <translation>Demande un intervalle et remplit la grille du tableau horaire de sorte que la scène sélectionnée alterne avec une copie d’elle-même. Les scènes présentes sont remplacées.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleSwitcherWidget</name>
@@ -2380,12 +2952,24 @@ Le traitement a été interrompu.</translation>
         <source>Schedule of days: None</source>
         <translation>Jours avec grille&#xa0;: aucun</translation>
     </message>
+    <message>
+        <source>Switch Schedule</source>
+        <translation>Changer de grille</translation>
+    </message>
+    <message>
+        <source>Chooses the schedule in the time table: that of a date in the calendar, that of a day of the week, or the default one. The bar at the left edge marks the chosen kind.</source>
+        <translation>Choisit la grille du tableau horaire&#xa0;: celle d’une date du calendrier, celle d’un jour de semaine, ou celle par défaut. La barre du bord gauche marque le type choisi.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleTabWidget</name>
     <message>
         <source>&lt;span style=&quot;font-weight:bold;&quot;&gt;You can not move the first tab.&lt;/span&gt;</source>
         <translation>&lt;span style=&quot;font-weight:bold;&quot;&gt;Le premier onglet ne peut pas être déplacé.&lt;/span&gt;</translation>
+    </message>
+    <message>
+        <source>Name of the channel</source>
+        <translation>Nom du canal</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2997,10 @@ Le traitement a été interrompu.</translation>
         <source>Scheduled to be executed on %1 (%2)</source>
         <translation>Exécution prévue le %1 (%2)</translation>
     </message>
+    <message>
+        <source>Tells which schedule is used on the selected date: that of the date itself, else that of its day of the week, else the default schedule.</source>
+        <translation>Indique la grille utilisée à la date sélectionnée&#xa0;: celle de la date, sinon celle de son jour de semaine, sinon la grille par défaut.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvTimeSpinWidget</name>
@@ -2427,6 +3015,18 @@ Le traitement a été interrompu.</translation>
     <message>
         <source>s</source>
         <translation>s</translation>
+    </message>
+    <message>
+        <source>%1, hours</source>
+        <translation>%1, heures</translation>
+    </message>
+    <message>
+        <source>%1, minutes</source>
+        <translation>%1, minutes</translation>
+    </message>
+    <message>
+        <source>%1, seconds</source>
+        <translation>%1, secondes</translation>
     </message>
 </context>
 <context>
@@ -2454,16 +3054,28 @@ Le traitement a été interrompu.</translation>
         <source>This schedule does not exist.</source>
         <translation>Cette grille n’existe pas.</translation>
     </message>
+    <message>
+        <source>Time table</source>
+        <translation>Tableau horaire</translation>
+    </message>
+    <message>
+        <source>The day of the schedule, from 0 to 24 o&apos;clock. Stages are dropped here, dragged, and made longer or shorter at their edges. Ctrl adds to the selection, and the arrow keys move what is selected.</source>
+        <translation>La journée de la grille, de 0 à 24 heures. On y dépose les scènes, on les déplace, on les allonge ou raccourcit par leurs bords. Ctrl ajoute à la sélection et les flèches la déplacent.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvTodayWidget</name>
     <message>
         <source>Today:</source>
-        <translation>Aujourd’hui&#xa0;:</translation>
+        <translation>Ce jour&#xa0;:</translation>
     </message>
     <message>
         <source>Move to Today</source>
         <translation>Aller à aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Today&apos;s date. Click it to turn the calendar to today and show the schedule of that date.</source>
+        <translation>La date du jour. Un clic ramène le calendrier à aujourd’hui et affiche la grille de cette date.</translation>
     </message>
 </context>
 <context>
@@ -2471,6 +3083,10 @@ Le traitement a été interrompu.</translation>
     <message>
         <source>Schedule for Each Day of Week</source>
         <translation>Grilles des jours de semaine</translation>
+    </message>
+    <message>
+        <source>Click a day to edit the schedule that is used on that day of every week. A frame marks the days that have one. A schedule of a date goes before it.</source>
+        <translation>Cliquez sur un jour pour modifier la grille de ce jour de chaque semaine. Un cadre marque les jours qui en ont une. La grille d’une date est prioritaire.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,249 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>Zavo::ActionHelp</name>
+    <message>
+        <source>Saves the channel of the current tab</source>
+        <translation>現在のタブのチャンネルを保存します</translation>
+    </message>
+    <message>
+        <source>Writes the channel of the current tab to its file. The file is replaced in one step, so that it is never half-written.</source>
+        <translation>現在のタブのチャンネルをファイルに書き込みます。ファイルは一度に置き換えられるため、書きかけになることはありません。</translation>
+    </message>
+    <message>
+        <source>Saves the channels of all tabs</source>
+        <translation>すべてのタブのチャンネルを保存します</translation>
+    </message>
+    <message>
+        <source>Writes the channel of each tab to its file.</source>
+        <translation>各タブのチャンネルをそれぞれのファイルに書き込みます。</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor and asks about unsaved channels</source>
+        <translation>スケジュールエディターを閉じ、未保存のチャンネルについて確認します</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor. You are asked about each channel with changes that are not saved.</source>
+        <translation>スケジュールエディターを閉じます。未保存の変更があるチャンネルごとに確認します。</translation>
+    </message>
+    <message>
+        <source>Ends the program and asks about unsaved channels</source>
+        <translation>プログラムを終了し、未保存のチャンネルについて確認します</translation>
+    </message>
+    <message>
+        <source>Ends the program. You are asked about each channel with changes that are not saved.</source>
+        <translation>プログラムを終了します。未保存の変更があるチャンネルごとに確認します。</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of this channel</source>
+        <translation>このチャンネルの最後の変更を元に戻します</translation>
+    </message>
+    <message>
+        <source>Takes back the last change of the channel of the current tab, and shows the schedule that it was made in. Each channel has a history of its own.</source>
+        <translation>現在のタブのチャンネルの最後の変更を元に戻し、変更したスケジュールを表示します。履歴はチャンネルごとにあります。</translation>
+    </message>
+    <message>
+        <source>Makes the change again that was undone last</source>
+        <translation>最後に元に戻した変更をやり直します</translation>
+    </message>
+    <message>
+        <source>Makes the change of this channel again that was undone last, and shows the schedule that it belongs to.</source>
+        <translation>このチャンネルで最後に元に戻した変更をやり直し、そのスケジュールを表示します。</translation>
+    </message>
+    <message>
+        <source>Moves the selection to the clipboard</source>
+        <translation>選択した項目をクリップボードに移動します</translation>
+    </message>
+    <message>
+        <source>Moves what is selected to the clipboard: stages in the time table, dates or a day of the week in Switch Schedule, or the checked rows of the Schedule List. What you used last counts.</source>
+        <translation>選択した項目をクリップボードに移動します。対象はタイムテーブルのステージ、「スケジュールの切り替え」の日付または曜日、スケジュール一覧のチェックした行のうち、最後に使用したものです。</translation>
+    </message>
+    <message>
+        <source>Copies the selection to the clipboard</source>
+        <translation>選択した項目をクリップボードにコピーします</translation>
+    </message>
+    <message>
+        <source>Copies what is selected to the clipboard: stages in the time table, whole schedules in Switch Schedule, or the checked rows of the Schedule List. What you used last counts.</source>
+        <translation>選択した項目をクリップボードにコピーします。対象はタイムテーブルのステージ、「スケジュールの切り替え」のスケジュール全体、スケジュール一覧のチェックした行のうち、最後に使用したものです。</translation>
+    </message>
+    <message>
+        <source>Inserts what is on the clipboard</source>
+        <translation>クリップボードの内容を貼り付けます</translation>
+    </message>
+    <message>
+        <source>Inserts stages into the time table, or schedules at the selected date or day. You are asked before a schedule is replaced.</source>
+        <translation>タイムテーブルにステージを、または選択した日付や曜日にスケジュールを貼り付けます。スケジュールを置き換える前に確認します。</translation>
+    </message>
+    <message>
+        <source>Deletes the selection</source>
+        <translation>選択した項目を削除します</translation>
+    </message>
+    <message>
+        <source>Deletes what is selected: stages in the time table, schedules in Switch Schedule, or the checked rows of the Schedule List. The default schedule cannot be deleted.</source>
+        <translation>選択した項目を削除します。対象はタイムテーブルのステージ、「スケジュールの切り替え」のスケジュール、スケジュール一覧のチェックした行です。デフォルトスケジュールは削除できません。</translation>
+    </message>
+    <message>
+        <source>Selects everything in the time table or the Schedule List</source>
+        <translation>タイムテーブルまたはスケジュール一覧のすべてを選択します</translation>
+    </message>
+    <message>
+        <source>Selects all stages of the time table, or checks all rows of the Schedule List, whichever you used last.</source>
+        <translation>最後に使用した方に応じて、タイムテーブルのすべてのステージを選択するか、スケジュール一覧のすべての行にチェックを付けます。</translation>
+    </message>
+    <message>
+        <source>Selects nothing in the time table or the Schedule List</source>
+        <translation>タイムテーブルまたはスケジュール一覧の選択を解除します</translation>
+    </message>
+    <message>
+        <source>Takes the selection off all stages of the time table, or the check marks off all rows of the Schedule List, whichever you used last.</source>
+        <translation>最後に使用した方に応じて、タイムテーブルのすべてのステージの選択を解除するか、スケジュール一覧のすべての行のチェックを外します。</translation>
+    </message>
+    <message>
+        <source>Sends the channels and their stages to the displays</source>
+        <translation>チャンネルとステージをディスプレイに送ります</translation>
+    </message>
+    <message>
+        <source>Opens the upload manager, which sends the saved channels and the stages they use to the upload targets. You are asked about unsaved channels first.</source>
+        <translation>保存済みのチャンネルと使用ステージをアップロード先に送るアップロード画面を開きます。先に未保存のチャンネルについて確認します。</translation>
+    </message>
+    <message>
+        <source>Exports the channel of the current tab to a file</source>
+        <translation>現在のタブのチャンネルをファイルにエクスポートします</translation>
+    </message>
+    <message>
+        <source>Exports the channel of the current tab, as it was saved last, to a file that other programs can read.</source>
+        <translation>現在のタブのチャンネルを、最後に保存した内容で、他のプログラムが読めるファイルにエクスポートします。</translation>
+    </message>
+    <message>
+        <source>Opens the log of the last upload</source>
+        <translation>前回のアップロードのログを開きます</translation>
+    </message>
+    <message>
+        <source>Opens the log that tells how the last upload went.</source>
+        <translation>前回のアップロードの結果が記録されたログを開きます。</translation>
+    </message>
+    <message>
+        <source>Opens the folder with the logs of the uploads</source>
+        <translation>アップロードログのフォルダーを開きます</translation>
+    </message>
+    <message>
+        <source>Opens the folder with the logs of the last upload and of those before.</source>
+        <translation>前回とそれ以前のアップロードのログがあるフォルダーを開きます。</translation>
+    </message>
+    <message>
+        <source>Creates the schedule that is chosen in Switch Schedule</source>
+        <translation>「スケジュールの切り替え」で選択したスケジュールを作成します</translation>
+    </message>
+    <message>
+        <source>Creates a schedule for the date or the day of the week that is chosen in Switch Schedule, if it has none. Stages can be dropped only on a schedule that exists.</source>
+        <translation>「スケジュールの切り替え」で選択した日付または曜日にスケジュールがなければ作成します。ステージは、作成済みのスケジュールにのみドロップできます。</translation>
+    </message>
+    <message>
+        <source>Deletes the schedule that is shown</source>
+        <translation>表示中のスケジュールを削除します</translation>
+    </message>
+    <message>
+        <source>Deletes the schedule in the time table with all its stages, after a question. The default schedule cannot be deleted.</source>
+        <translation>確認の後、タイムテーブルのスケジュールをすべてのステージとともに削除します。デフォルトスケジュールは削除できません。</translation>
+    </message>
+    <message>
+        <source>Changes the name of the channel in its tab</source>
+        <translation>タブのチャンネル名を変更します</translation>
+    </message>
+    <message>
+        <source>Opens the name in the current tab for editing. Enter takes the new name over. Two channels cannot have the same name.</source>
+        <translation>現在のタブの名前を編集します。Enter キーで新しい名前が確定します。2 つのチャンネルに同じ名前は付けられません。</translation>
+    </message>
+    <message>
+        <source>Moves the tab of the channel to another place</source>
+        <translation>チャンネルのタブを別の位置に移動します</translation>
+    </message>
+    <message>
+        <source>Moves the current tab to the place of another one. The first channel keeps its place. This cannot be undone.</source>
+        <translation>現在のタブを別のタブの位置に移動します。最初のチャンネルの位置は変わりません。この操作は元に戻せません。</translation>
+    </message>
+    <message>
+        <source>Adds a channel with an empty default schedule</source>
+        <translation>空のデフォルトスケジュールを持つチャンネルを追加します</translation>
+    </message>
+    <message>
+        <source>Adds a channel with an empty default schedule behind the last tab. Its file is written at once.</source>
+        <translation>最後のタブの後ろに、空のデフォルトスケジュールを持つチャンネルを追加します。ファイルはすぐに書き込まれます。</translation>
+    </message>
+    <message>
+        <source>Deletes the channel of the current tab with its file</source>
+        <translation>現在のタブのチャンネルをファイルとともに削除します</translation>
+    </message>
+    <message>
+        <source>Deletes the channel of the current tab with its file, after a question. The first channel cannot be deleted. This cannot be undone.</source>
+        <translation>確認の後、現在のタブのチャンネルをファイルとともに削除します。最初のチャンネルは削除できません。この操作は元に戻せません。</translation>
+    </message>
+    <message>
+        <source>Deletes all channels and closes the editor</source>
+        <translation>すべてのチャンネルを削除してエディターを閉じます</translation>
+    </message>
+    <message>
+        <source>Deletes every channel file and the settings of the channels, after a question, and closes the editor. The next start begins with ten empty channels. This cannot be undone.</source>
+        <translation>確認の後、すべてのチャンネルファイルとチャンネルの設定を削除してエディターを閉じます。次回は空の 10 チャンネルで起動します。この操作は元に戻せません。</translation>
+    </message>
+    <message>
+        <source>Shows the id, place and number of schedules of the channel</source>
+        <translation>チャンネルの ID、位置、スケジュール数を表示します</translation>
+    </message>
+    <message>
+        <source>Shows the id, the name and the place of the current channel, and how many schedules of each kind it has.</source>
+        <translation>現在のチャンネルの ID、名前、位置、種類ごとのスケジュール数を表示します。</translation>
+    </message>
+    <message>
+        <source>Chooses which channels are uploaded</source>
+        <translation>アップロードするチャンネルを選択します</translation>
+    </message>
+    <message>
+        <source>Lists the saved channels and chooses which of them are uploaded.</source>
+        <translation>保存済みのチャンネルを一覧表示し、アップロードするものを選択します。</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel for choosing a schedule</source>
+        <translation>スケジュールを選択するパネルの表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Shows or hides Switch Schedule, the panel where you choose which schedule is in the time table: that of a date, of a day of the week, or the default one.</source>
+        <translation>「スケジュールの切り替え」の表示を切り替えます。タイムテーブルに表示するスケジュール (日付、曜日、デフォルト) を選択するパネルです。</translation>
+    </message>
+    <message>
+        <source>Shows or hides the list of all schedules</source>
+        <translation>全スケジュールの一覧の表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Shows or hides the Schedule List, with a row for each schedule of the channel.</source>
+        <translation>チャンネルのスケジュールごとに 1 行ある、スケジュール一覧の表示を切り替えます。</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel with the stages</source>
+        <translation>ステージのパネルの表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Shows or hides Choose Stage, the panel from which stages are dragged to the time table.</source>
+        <translation>「ステージの選択」の表示を切り替えます。ここからステージをタイムテーブルにドラッグします。</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel with the times of the selected stage</source>
+        <translation>選択したステージの時刻のパネルの表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Shows or hides the panel in which the start and the end of the selected stage are typed to the second.</source>
+        <translation>選択したステージの開始と終了を秒単位で入力するパネルの表示を切り替えます。</translation>
+    </message>
+    <message>
+        <source>Puts all panels back to their places</source>
+        <translation>すべてのパネルを元の位置に戻します</translation>
+    </message>
+    <message>
+        <source>Shows all panels at the places and in the sizes that they had at the first start.</source>
+        <translation>すべてのパネルを、初回起動時の位置と大きさで表示します。</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::BackupDialog</name>
     <message>
         <source>Safety Copies</source>
@@ -835,6 +1078,54 @@ Do you want to cancel the upload and close?</source>
 
 アップロードをキャンセルして閉じますか?</translation>
     </message>
+    <message>
+        <source>Reads all channel files and the stages they use and lists what is wrong: stages that are missing, time without a stage, bands that overlap, files that are passed over.</source>
+        <translation>すべてのチャンネルファイルと使用ステージを読み込み、問題 (足りないステージ、ステージのない時間、重なった時間枠、無視されるファイル) を一覧表示します。</translation>
+    </message>
+    <message>
+        <source>Shows the data folder, the settings of its schedules and the upload targets, each with an explanation, to be changed.</source>
+        <translation>データフォルダー、スケジュールの設定、アップロード先を説明付きで表示し、変更できるようにします。</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts...</source>
+        <translation>キーボードショートカット(&amp;K)...</translation>
+    </message>
+    <message>
+        <source>Shows and changes the keys of all commands</source>
+        <translation>すべてのコマンドのキーを表示し、変更します</translation>
+    </message>
+    <message>
+        <source>Lists all commands with their keys. Other keys can be given to each of them; what is already in use is told.</source>
+        <translation>すべてのコマンドとそのキーを一覧表示します。キーは変更でき、使用中のキーは通知されます。</translation>
+    </message>
+    <message>
+        <source>&amp;What&apos;s This?</source>
+        <translation>ヘルプモード(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Explains what you click next</source>
+        <translation>次にクリックしたものを説明します</translation>
+    </message>
+    <message>
+        <source>Click a command or a part of the window after this, and it is explained. Esc ends it.</source>
+        <translation>この後にコマンドやウィンドウの一部をクリックすると、説明が表示されます。Esc で終了します。</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program and where its data are</source>
+        <translation>プログラムのバージョンとデータの場所を表示します</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program, of the library it is built on, and the data folder that is open.</source>
+        <translation>プログラムのバージョン、基盤となるライブラリのバージョン、開いているデータフォルダーを表示します。</translation>
+    </message>
+    <message>
+        <source>Shows the version of the library that the program is built on</source>
+        <translation>プログラムの基盤となるライブラリのバージョンを表示します</translation>
+    </message>
+    <message>
+        <source>Tells about Qt, the library that the program is built on.</source>
+        <translation>プログラムの基盤となるライブラリ Qt について説明します。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::NoticeBar</name>
@@ -845,6 +1136,14 @@ Do you want to cancel the upload and close?</source>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Hides this notice</source>
+        <translation>このお知らせを閉じます</translation>
+    </message>
+    <message>
+        <source>Hides this notice until there is another one.</source>
+        <translation>次のお知らせがあるまで、このお知らせを閉じます。</translation>
     </message>
 </context>
 <context>
@@ -860,6 +1159,45 @@ Do you want to cancel the upload and close?</source>
     <message>
         <source>The channel file &quot;%1&quot; cannot be restored. It is as it was before.</source>
         <translation>チャンネルファイル「%1」を復元できません。ファイルは元のままです。</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::ReservedKeys</name>
+    <message>
+        <source>%1 moves what is selected in the time table.</source>
+        <translation>%1 はタイムテーブルで選択したものの移動に使われます。</translation>
+    </message>
+    <message>
+        <source>%1 goes through texts, lists, the calendar and the time table.</source>
+        <translation>%1 はテキスト、一覧、カレンダー、タイムテーブル内の移動に使われます。</translation>
+    </message>
+    <message>
+        <source>%1 goes from one control to the next.</source>
+        <translation>%1 は次の項目への移動に使われます。</translation>
+    </message>
+    <message>
+        <source>%1 presses buttons and checks rows.</source>
+        <translation>%1 はボタンを押したり行にチェックを付けたりするのに使われます。</translation>
+    </message>
+    <message>
+        <source>%1 closes menus and dialogs.</source>
+        <translation>%1 はメニューやダイアログを閉じるのに使われます。</translation>
+    </message>
+    <message>
+        <source>%1 is needed to type texts.</source>
+        <translation>%1 は文字の入力に必要です。</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu &quot;%2&quot;.</source>
+        <translation>%1 はメニュー「%2」を開くのに使われます。</translation>
+    </message>
+    <message>
+        <source>%1 edits the name of a channel or a target.</source>
+        <translation>%1 はチャンネル名またはアップロード先の編集に使われます。</translation>
+    </message>
+    <message>
+        <source>These are no keys that can be struck.</source>
+        <translation>押すことのできないキーです。</translation>
     </message>
 </context>
 <context>
@@ -976,10 +1314,6 @@ Do you want to cancel the upload and close?</source>
         <translation>バックアップコピー(&amp;C)...</translation>
     </message>
     <message>
-        <source>Shows earlier states of the channels and restores one.</source>
-        <translation>チャンネルの以前の状態を表示し、復元します。</translation>
-    </message>
-    <message>
         <source>Restore Channel</source>
         <translation>チャンネルの復元</translation>
     </message>
@@ -1006,6 +1340,14 @@ Do you want to cancel the upload and close?</source>
     <message>
         <source>The file &quot;channel.xml&quot; could not be renewed. The next start would show the first channel as it was before.</source>
         <translation>ファイル「channel.xml」を更新できませんでした。次回の起動時には、最初のチャンネルが以前の状態で表示されます。</translation>
+    </message>
+    <message>
+        <source>Shows earlier states of the channels and restores one</source>
+        <translation>チャンネルの以前の状態を表示し、復元します</translation>
+    </message>
+    <message>
+        <source>Lists the states that each channel file had before it was replaced or removed, with what differs, and brings one back.</source>
+        <translation>置き換えまたは削除される前の各チャンネルファイルの状態を違いとともに一覧表示し、元に戻します。</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1427,18 @@ If you upload without saving, previously saved information will be uploaded.</so
         <source>Close Schedule Editor</source>
         <translation>スケジュールエディターを閉じる</translation>
     </message>
+    <message>
+        <source>Closes the schedule editor and asks about unsaved channels</source>
+        <translation>スケジュールエディターを閉じ、未保存のチャンネルについて確認します</translation>
+    </message>
+    <message>
+        <source>Closes the schedule editor. You are asked about each channel with changes that are not saved.</source>
+        <translation>スケジュールエディターを閉じます。未保存の変更があるチャンネルごとに確認します。</translation>
+    </message>
+    <message>
+        <source>More commands</source>
+        <translation>その他のコマンド</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ScreenshotTaker</name>
@@ -1122,6 +1476,64 @@ If you upload without saving, previously saved information will be uploaded.</so
 All that was saved before is in the channel files.</source>
         <translation>前回の保存以降の編集が失われました: %1
 それ以前に保存した内容はすべてチャンネルファイルに残っています。</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::ShortcutDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Find a command or a key</source>
+        <translation>コマンドまたはキーを検索</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>既定</translation>
+    </message>
+    <message>
+        <source>&amp;No Keys</source>
+        <translation>キーなし(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Default</source>
+        <translation>既定(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Take It Away</source>
+        <translation>取り上げる(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;All to Default</source>
+        <translation>すべて既定に戻す(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Press the keys for &quot;%1&quot;:</source>
+        <translation>「%1」のキーを押してください(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Choose a command, then press its keys.</source>
+        <translation>コマンドを選択し、キーを押してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::Shortcuts</name>
+    <message>
+        <source>%1 is the key of &quot;%2&quot; (%3).</source>
+        <translation>%1 は「%2」(%3) のキーです。</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1679,10 @@ Do you want to delete the assigned time band and to paste?</source>
     <message>
         <source>Error</source>
         <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Schedule of the channel</source>
+        <translation>チャンネルのスケジュール</translation>
     </message>
 </context>
 <context>
@@ -1658,6 +2074,10 @@ Qt %1
         <source> - None. </source>
         <translation> - なし </translation>
     </message>
+    <message>
+        <source>The chosen date or day has no schedule of its own. Click here to create it; only then can stages be dropped.</source>
+        <translation>選択した日付または曜日には専用のスケジュールがありません。ここをクリックして作成すると、ステージをドロップできるようになります。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::WorkingAreaStatusBar</name>
@@ -1710,7 +2130,7 @@ Qt %1
     </message>
     <message>
         <source>Move to &amp;Today</source>
-        <translation>今日へ移動(&amp;T)</translation>
+        <translation>今日へ移動(&amp;Y)</translation>
     </message>
     <message>
         <source>Select &amp;Week</source>
@@ -1743,6 +2163,86 @@ Qt %1
     <message>
         <source>Schedule of days: </source>
         <translation>スケジュールのある日: </translation>
+    </message>
+    <message>
+        <source>Shows today&apos;s schedule</source>
+        <translation>今日のスケジュールを表示します</translation>
+    </message>
+    <message>
+        <source>Turns the calendar to the present month and shows the schedule of today&apos;s date.</source>
+        <translation>カレンダーを今月に切り替え、今日の日付のスケジュールを表示します。</translation>
+    </message>
+    <message>
+        <source>Selects the whole week of the selected date</source>
+        <translation>選択した日付の週全体を選択します</translation>
+    </message>
+    <message>
+        <source>Selects the seven days of the week of the selected date. Cut, copy, paste and delete then act on all of them.</source>
+        <translation>選択した日付を含む週の 7 日を選択します。切り取り、コピー、貼り付け、削除はそのすべてに適用されます。</translation>
+    </message>
+    <message>
+        <source>Selects the whole month of the selected date</source>
+        <translation>選択した日付の月全体を選択します</translation>
+    </message>
+    <message>
+        <source>Selects all days of the month of the selected date. Cut, copy, paste and delete then act on all of them.</source>
+        <translation>選択した日付を含む月のすべての日を選択します。切り取り、コピー、貼り付け、削除はそのすべてに適用されます。</translation>
+    </message>
+    <message>
+        <source>Leaves only one date selected</source>
+        <translation>1 つの日付だけを選択した状態にします</translation>
+    </message>
+    <message>
+        <source>Takes the selection off all dates but the one whose schedule is shown.</source>
+        <translation>スケジュールを表示している日付以外の選択を解除します。</translation>
+    </message>
+    <message>
+        <source>Chooses the day with which the weeks begin</source>
+        <translation>週の最初の曜日を選択します</translation>
+    </message>
+    <message>
+        <source>Chooses the day that stands first in the rows of the calendar.</source>
+        <translation>カレンダーの各行の先頭に置く曜日を選択します。</translation>
+    </message>
+    <message>
+        <source>Begins the weeks of the calendar with this day</source>
+        <translation>カレンダーの週をこの曜日から始めます</translation>
+    </message>
+    <message>
+        <source>Begins the weeks of the calendar with this day, until the editor is closed.</source>
+        <translation>エディターを閉じるまで、カレンダーの週をこの曜日から始めます。</translation>
+    </message>
+    <message>
+        <source>Shows or hides the numbers of the weeks</source>
+        <translation>週番号の表示を切り替えます</translation>
+    </message>
+    <message>
+        <source>Shows or hides the numbers of the weeks beside the calendar.</source>
+        <translation>カレンダーの横の週番号の表示を切り替えます。</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>前の月</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>次の月</translation>
+    </message>
+    <message>
+        <source>Menu of the calendar</source>
+        <translation>カレンダーのメニュー</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Click a date to edit its schedule. Ctrl and Shift select several dates for the commands of the edit menu. A frame marks the dates that have a schedule, and green is today.</source>
+        <translation>日付をクリックするとそのスケジュールを編集できます。Ctrl と Shift で編集メニューの対象となる日付を複数選択できます。枠はスケジュールのある日、緑は今日を示します。</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>カレンダー</translation>
     </message>
 </context>
 <context>
@@ -1935,6 +2435,10 @@ Do you want to continue?</source>
         <source>If you set Default Stage, drop the stage into the right box, or select the stage and from the context menu, choose Set As Default Stage.</source>
         <translation>デフォルトステージを設定するには、右のボックスにステージをドロップするか、ステージを選択してコンテキストメニューから「デフォルトステージに設定」を選択してください。</translation>
     </message>
+    <message>
+        <source>The stage that is shown whenever no other one is scheduled. Drop a stage on the box to choose it; the check mark takes it away.</source>
+        <translation>他に予定されたステージがないときに表示されるステージです。ボックスにステージをドロップして設定し、チェックを外すと解除されます。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleDefaultWidget</name>
@@ -1961,6 +2465,10 @@ Do you want to continue?</source>
     <message>
         <source>Assigned Stage: </source>
         <translation>割り当てステージ: </translation>
+    </message>
+    <message>
+        <source>Click here to edit the default schedule. It is used on each day for which neither its date nor its day of the week has a schedule.</source>
+        <translation>クリックするとデフォルトスケジュールを編集できます。日付にも曜日にもスケジュールがない日に使われます。</translation>
     </message>
 </context>
 <context>
@@ -2144,6 +2652,14 @@ Do you want to continue?</source>
         <source>End Time</source>
         <translation>終了時刻</translation>
     </message>
+    <message>
+        <source>Assigned Item Property</source>
+        <translation>割り当て項目のプロパティ</translation>
+    </message>
+    <message>
+        <source>The stage that is selected in the time table, and when it starts and ends. Type a time or step it; the neighbours set the limits.</source>
+        <translation>タイムテーブルで選択したステージとその開始・終了時刻です。時刻は入力または増減できます。前後のステージが限度になります。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleListWidget</name>
@@ -2186,6 +2702,26 @@ Do you want to continue?</source>
     <message>
         <source>Channel: %1</source>
         <translation>チャンネル: %1</translation>
+    </message>
+    <message>
+        <source>The schedules of the channel. The selected row is the schedule in the time table. The commands of the edit menu act on the checked rows.</source>
+        <translation>チャンネルのスケジュールです。選択した行がタイムテーブルに表示されます。編集メニューのコマンドはチェックした行に適用されます。</translation>
+    </message>
+    <message>
+        <source>Creates a schedule for a date or a day of the week</source>
+        <translation>日付または曜日のスケジュールを作成します</translation>
+    </message>
+    <message>
+        <source>Asks for a date or a day of the week, creates a schedule for it and shows it. A date or day that has none yet is proposed.</source>
+        <translation>日付または曜日を指定してスケジュールを作成し、表示します。まだスケジュールのない日付または曜日が候補になります。</translation>
+    </message>
+    <message>
+        <source>Menu of the schedule list</source>
+        <translation>スケジュール一覧のメニュー</translation>
+    </message>
+    <message>
+        <source>Schedules of the channel</source>
+        <translation>チャンネルのスケジュール</translation>
     </message>
 </context>
 <context>
@@ -2241,6 +2777,18 @@ Please check whether it is possible to delete the file.</source>
     <message>
         <source>Change Channel &amp;Name...</source>
         <translation>チャンネル名の変更(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Changes the name of the channel in its tab</source>
+        <translation>タブのチャンネル名を変更します</translation>
+    </message>
+    <message>
+        <source>Opens the name in the tab for editing. Enter takes the new name over. Two channels cannot have the same name.</source>
+        <translation>タブの名前を編集します。Enter キーで新しい名前が確定します。2 つのチャンネルに同じ名前は付けられません。</translation>
     </message>
 </context>
 <context>
@@ -2318,6 +2866,14 @@ You have to specify another date.</source>
         <source>Stage List</source>
         <translation>ステージ一覧</translation>
     </message>
+    <message>
+        <source>Choose Stage</source>
+        <translation>ステージの選択</translation>
+    </message>
+    <message>
+        <source>The stages of the data folder. Drag one or several to the time table, or one to the box of the default stage above it.</source>
+        <translation>データフォルダーのステージです。タイムテーブルに 1 つまたは複数を、その上のデフォルトステージのボックスに 1 つをドラッグできます。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleStageListView</name>
@@ -2359,6 +2915,22 @@ Processing was interrupted.</source>
         <source>Error</source>
         <translation>エラー</translation>
     </message>
+    <message>
+        <source>Shows this stage whenever no other one is scheduled</source>
+        <translation>他に予定されたステージがないときにこのステージを表示します</translation>
+    </message>
+    <message>
+        <source>Makes the selected stage the default stage of the schedule in the time table. It fills all time without a stage.</source>
+        <translation>選択したステージを、タイムテーブルのスケジュールのデフォルトステージにします。ステージのない時間はすべてこのステージになります。</translation>
+    </message>
+    <message>
+        <source>Shows this stage anew at a regular interval</source>
+        <translation>このステージを一定間隔で表示し直します</translation>
+    </message>
+    <message>
+        <source>Asks for an interval and fills the schedule in the time table so that the selected stage takes turns with a copy of itself. The stages that were there are replaced.</source>
+        <translation>間隔を指定し、選択したステージとその複製が交互に表示されるようにタイムテーブルのスケジュールを埋めます。それまでのステージは置き換えられます。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleSwitcherWidget</name>
@@ -2366,12 +2938,24 @@ Processing was interrupted.</source>
         <source>Schedule of days: None</source>
         <translation>スケジュールのある日: なし</translation>
     </message>
+    <message>
+        <source>Switch Schedule</source>
+        <translation>スケジュールの切り替え</translation>
+    </message>
+    <message>
+        <source>Chooses the schedule in the time table: that of a date in the calendar, that of a day of the week, or the default one. The bar at the left edge marks the chosen kind.</source>
+        <translation>タイムテーブルに表示するスケジュールを、カレンダーの日付、曜日、デフォルトから選択します。左端のバーが選択中の種類を示します。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleTabWidget</name>
     <message>
         <source>&lt;span style=&quot;font-weight:bold;&quot;&gt;You can not move the first tab.&lt;/span&gt;</source>
         <translation>&lt;span style=&quot;font-weight:bold;&quot;&gt;最初のタブは移動できません。&lt;/span&gt;</translation>
+    </message>
+    <message>
+        <source>Name of the channel</source>
+        <translation>チャンネル名</translation>
     </message>
 </context>
 <context>
@@ -2399,6 +2983,10 @@ Processing was interrupted.</source>
         <source>Scheduled to be executed on %1 (%2)</source>
         <translation>実行予定日 %1 (%2)</translation>
     </message>
+    <message>
+        <source>Tells which schedule is used on the selected date: that of the date itself, else that of its day of the week, else the default schedule.</source>
+        <translation>選択した日付に使われるスケジュールを示します。日付のスケジュール、なければ曜日のスケジュール、それもなければデフォルトスケジュールです。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvTimeSpinWidget</name>
@@ -2413,6 +3001,18 @@ Processing was interrupted.</source>
     <message>
         <source>s</source>
         <translation>秒</translation>
+    </message>
+    <message>
+        <source>%1, hours</source>
+        <translation>%1、時</translation>
+    </message>
+    <message>
+        <source>%1, minutes</source>
+        <translation>%1、分</translation>
+    </message>
+    <message>
+        <source>%1, seconds</source>
+        <translation>%1、秒</translation>
     </message>
 </context>
 <context>
@@ -2440,6 +3040,14 @@ Processing was interrupted.</source>
         <source>This schedule does not exist.</source>
         <translation>このスケジュールはありません。</translation>
     </message>
+    <message>
+        <source>Time table</source>
+        <translation>タイムテーブル</translation>
+    </message>
+    <message>
+        <source>The day of the schedule, from 0 to 24 o&apos;clock. Stages are dropped here, dragged, and made longer or shorter at their edges. Ctrl adds to the selection, and the arrow keys move what is selected.</source>
+        <translation>スケジュールの 0 時から 24 時までの 1 日です。ここにステージをドロップし、ドラッグして移動し、端で長さを変えます。Ctrl で選択に追加し、矢印キーで選択したものを移動します。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvTodayWidget</name>
@@ -2451,12 +3059,20 @@ Processing was interrupted.</source>
         <source>Move to Today</source>
         <translation>今日へ移動</translation>
     </message>
+    <message>
+        <source>Today&apos;s date. Click it to turn the calendar to today and show the schedule of that date.</source>
+        <translation>今日の日付です。クリックするとカレンダーが今日に移動し、そのスケジュールが表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvWeekWidget</name>
     <message>
         <source>Schedule for Each Day of Week</source>
         <translation>曜日ごとのスケジュール</translation>
+    </message>
+    <message>
+        <source>Click a day to edit the schedule that is used on that day of every week. A frame marks the days that have one. A schedule of a date goes before it.</source>
+        <translation>曜日をクリックすると、毎週その曜日に使われるスケジュールを編集できます。枠はスケジュールのある曜日を示します。日付のスケジュールが優先されます。</translation>
     </message>
 </context>
 </TS>

@@ -34,6 +34,7 @@ ChannelConfigurationDialog::ChannelConfigurationDialog(QWidget *parent)
     setWindowTitle(tr("Channel Configuration"));
     createTree();
     m_label->setTextFormat(Qt::PlainText);
+    m_label->setWordWrap(true);
     m_label->setBuddy(m_tree);
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(false);
     auto *const layout = new QVBoxLayout(this);

@@ -23,6 +23,7 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
         return;
     }
     QPainter painter(this);
+    drawFrame(&painter);
     const QString text =
         fontMetrics().elidedText(this->text(), Qt::ElideRight, contentsRect().width());
     style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),

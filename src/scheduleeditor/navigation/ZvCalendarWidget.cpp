@@ -91,12 +91,27 @@ void ZvCalendarWidget::setupYearButton()
     button->installEventFilter(this);
 }
 
+int ZvCalendarWidget::widthOfDayNames() const
+{
+    constexpr int columns = 8; // with the week numbers
+    constexpr int gapPx = 2;
+    int widest = 0;
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        const QString name = locale().dayName(day, QLocale::ShortFormat);
+        widest = qMax(widest, fontMetrics().horizontalAdvance(name));
+    }
+    return columns * (widest + gapPx);
+}
+
 void ZvCalendarWidget::setupView()
 {
     if (!m_calendarView)
         return;
     m_calendarView->setAccessibleName(tr("Calendar"));
     m_calendarView->setAttribute(Qt::WA_MouseTracking);
+    // The base class asks for margins around the names of days that not every language has in a
+    // dock.
+    setMinimumWidth(widthOfDayNames());
     m_calendarView->installEventFilter(this);
     // Another page puts another date under a mouse that rests.
     connect(this, SIGNAL(currentPageChanged(int,int)), this, SLOT(forgetHoveredCell()));

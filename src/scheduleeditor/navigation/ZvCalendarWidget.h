@@ -101,6 +101,7 @@ private:
     void setupNavigationBar();
     void setupMonthButton();
     void setupYearButton();
+    int widthOfDayNames() const;
     void setupView();
 
     void changeSelection(const QDate &date, Qt::KeyboardModifiers modifiers);

@@ -29,7 +29,7 @@ const QLatin1String TodayStyle(
 ZvTodayWidget::ZvTodayWidget(QWidget *parent)
     : QFrame(parent)
     , m_titleLabel(new QLabel(tr("Today:"), this))
-    , m_dateLabel(new QLabel(this))
+    , m_dateLabel(new ElidedLabel(this))
     , m_dayLabel(new ElidedLabel(this))
 {
     setAttribute(Qt::WA_MouseTracking);
@@ -43,7 +43,9 @@ ZvTodayWidget::ZvTodayWidget(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(m_titleLabel);
     layout->addWidget(m_dateLabel);
-    layout->addWidget(m_dayLabel);
+    // The day, which long dates begin with, gives way before the date does.
+    m_dayLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->addWidget(m_dayLabel, 1);
     layout->addItem(new QSpacerItem(TodaySpacerPx, TodaySpacerPx, QSizePolicy::Expanding,
                                     QSizePolicy::Minimum));
     setToolTip(tr("Move to Today"));

@@ -1,5 +1,6 @@
 #include "stages/ZvScheduleDefaultStageWidget.h"
 
+#include "domain/ElidedLabel.h"
 #include "domain/MessageBox.h"
 #include "stages/ZvScheduleStageListView.h"
 
@@ -27,12 +28,11 @@ const QLatin1String unnamedStyle("color: gray; font-style: italic;");
 ZvScheduleDefaultStageWidget::ZvScheduleDefaultStageWidget(QWidget *parent)
     : QFrame(parent)
     , m_checkBox(new QCheckBox(tr("Default Stage"), this))
-    , m_label(new QLabel(this))
+    , m_label(new ElidedLabel(this))
 {
     m_checkBox->setStyleSheet(QStringLiteral("font-size: 9.0pt;"));
     m_label->setMinimumSize(labelMinimumPx, labelMinimumPx);
     m_label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    m_label->setTextFormat(Qt::PlainText);
 
     setWhatsThis(tr("The stage that is shown whenever no other one is scheduled. Drop a stage on "
                     "the box to choose it; the check mark takes it away."));

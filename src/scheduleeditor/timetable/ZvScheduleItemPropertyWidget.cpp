@@ -1,5 +1,6 @@
 #include "timetable/ZvScheduleItemPropertyWidget.h"
 
+#include "domain/ElidedLabel.h"
 #include "domain/ToolButtonStyle.h"
 #include "timetable/TimeAxis.h"
 #include "timetable/ZvScheduleWorkingArea.h"
@@ -52,8 +53,7 @@ QString joinedStageNames(const QList<ZvTimeTableTimeItem *> &items)
 // Its minimum lets many names be cut off, so that the times stay in sight.
 QLabel *newStageLabel()
 {
-    auto *label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
+    auto *label = new ElidedLabel;
     label->setMinimumSize(MinimumStageLabelSize, MinimumStageLabelSize);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     label->setStyleSheet(QStringLiteral("border: 1px solid gray;margin-left: 5px;"));
