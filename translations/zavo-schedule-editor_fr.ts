@@ -1109,7 +1109,7 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;What&apos;s This?</source>
-        <translation>&amp;Qu’est-ce que c’est&#xa0;?</translation>
+        <translation>Qu’&amp;est-ce que c’est&#xa0;?</translation>
     </message>
     <message>
         <source>Explains what you click next</source>

@@ -1,5 +1,7 @@
 #include "shortcuts/ReservedKeys.h"
 
+#include "shortcuts/MenuText.h"
+
 #include <QCoreApplication>
 #include <QKeySequence>
 #include <QMenuBar>
@@ -95,8 +97,7 @@ QString reason(const QKeySequence &keys, const QString &commandId, const QMenuBa
     const QList<QAction *> menus = menuBar ? menuBar->actions() : QList<QAction *>();
     for (const QAction *menu : menus) {
         if (QKeySequence::mnemonic(menu->text()) == first)
-            return reservedText(opensMenu).arg(firstText,
-                                               QString(menu->text()).remove(QLatin1Char('&')));
+            return reservedText(opensMenu).arg(firstText, MenuText::plain(menu->text()));
     }
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "HostNames.h"
 #include "ZvEditorUserConfig.h"
+#include "shortcuts/MenuText.h"
 #include "shortcuts/ReservedKeys.h"
 #include "shortcuts/ShortcutNames.h"
 
@@ -23,15 +24,6 @@ constexpr int mostSequences = 8;
 
 // Kept for a command from which all keys were taken.
 const QLatin1String noKeys("none");
-
-QString plainText(const QString &text)
-{
-    QString plain = text;
-    plain.remove(QLatin1Char('&'));
-    if (plain.endsWith(QLatin1String("...")))
-        plain.chop(3);
-    return plain;
-}
 
 bool overlap(const QKeySequence &first, const QKeySequence &second)
 {
@@ -59,7 +51,7 @@ Shortcuts::Shortcuts(const QMainWindow *window)
     const QList<QAction *> menus = m_menuBar ? m_menuBar->actions() : QList<QAction *>();
     for (const QAction *action : menus) {
         if (const QMenu *menu = action->menu())
-            collect(menu->actions(), menu->objectName(), plainText(menu->title()));
+            collect(menu->actions(), menu->objectName(), MenuText::plain(menu->title()));
     }
     // It is in no menu of the bar, and its key works everywhere in the window.
     QAction *const newSchedule =
@@ -80,14 +72,15 @@ void Shortcuts::collect(const QList<QAction *> &entries, const QString &menuId,
         ++place;
         if (const QMenu *submenu = action->menu()) {
             collect(submenu->actions(), submenu->objectName(),
-                    QStringLiteral("%1, %2").arg(category, plainText(submenu->title())));
+                    QStringLiteral("%1, %2").arg(category, MenuText::plain(submenu->title())));
             continue;
         }
         // An entry without a name is known by its place.
         const QString id = action->objectName().isEmpty()
                                ? QStringLiteral("%1.%2").arg(menuId).arg(place)
                                : action->objectName();
-        m_commands.append({action, id, category, plainText(action->text()), action->shortcuts()});
+        m_commands.append(
+            {action, id, category, MenuText::plain(action->text()), action->shortcuts()});
     }
 }
 
