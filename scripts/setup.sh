@@ -19,8 +19,8 @@ if [[ "$group" == test || "$group" == lint ]]; then
     python3 poppler-utils
     # A display for the test that copies from one program to another.
     xvfb
-    # Make the packages and look at them, and at what goes along with the program.
-    file dpkg-dev fakeroot lintian desktop-file-utils appstream mandoc doxygen
+    # Make the packages, look at them and at what goes along with the program, and install it.
+    hicolor-icon-theme file dpkg-dev fakeroot lintian desktop-file-utils appstream mandoc doxygen
   )
 fi
 if [[ "$group" == lint ]]; then

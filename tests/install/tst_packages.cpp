@@ -135,7 +135,12 @@ Command tst_Packages::dpkg(const QStringList &arguments) const
     environment.insert(QStringLiteral("PATH"), environment.value(QStringLiteral("PATH")) +
                                                    QStringLiteral(":/usr/sbin:/sbin"));
     const QString program = words.takeFirst();
-    return Command::run(program, words, environment);
+    Command command = Command::run(program, words, environment);
+    // The packages of this machine are known there, their files are not.
+    static const QRegularExpression noFiles(
+        QStringLiteral("dpkg: warning: files list file for package [^\n]*\n"));
+    command.output = QString::fromUtf8(command.output).remove(noFiles).toUtf8();
+    return command;
 }
 
 /// The system knows the packages of this machine, so that dpkg looks for what ours depend on.
@@ -156,7 +161,7 @@ void tst_Packages::initTestCase()
     for (const QString &package : packageNames())
         files.append(packageFile(package));
     const Command installed = dpkg(QStringList{QStringLiteral("--install")} + files);
-    QVERIFY2(installed.exitCode == 0, installed.output.right(2000).constData());
+    QVERIFY2(installed.exitCode == 0, installed.output.right(700).constData());
 }
 
 void tst_Packages::makesEveryPackage()
@@ -190,7 +195,7 @@ void tst_Packages::everyRuleNamesAComponent()
     const QString prefix = m_folder.filePath(QStringLiteral("unspecified"));
     const Command installed =
         installBuild({QStringLiteral("--component"), QStringLiteral("Unspecified")}, prefix);
-    QVERIFY2(installed.exitCode == 0, installed.output.constData());
+    QVERIFY2(installed.exitCode == 0, installed.output.right(700).constData());
     QCOMPARE(joined(filesBelow(prefix)), QByteArray());
 }
 
@@ -198,7 +203,7 @@ void tst_Packages::packsWhateverIsInstalled()
 {
     const QString prefix = m_folder.filePath(QStringLiteral("installed"));
     const Command installed = installBuild({}, prefix);
-    QVERIFY2(installed.exitCode == 0, installed.output.constData());
+    QVERIFY2(installed.exitCode == 0, installed.output.right(700).constData());
     QSet<QString> missing = filesBelow(prefix);
     QVERIFY(missing.size() > 40);
     for (const QString &file : filesBelow(systemPath(QStringLiteral("/usr")))) {
@@ -332,7 +337,7 @@ void tst_Packages::programDrawsItsWindow()
 void tst_Packages::leavesNothingBehind()
 {
     const Command removed = dpkg(QStringList{QStringLiteral("--purge")} + packageNames());
-    QVERIFY2(removed.exitCode == 0, removed.output.right(2000).constData());
+    QVERIFY2(removed.exitCode == 0, removed.output.constData());
     QVERIFY(!QFileInfo::exists(systemPath(QStringLiteral("/usr"))));
 }
 
