@@ -19,10 +19,12 @@ function(zavo_warning_expression result)
 endfunction()
 zavo_warning_expression(ZAVO_WARNING_EXPRESSION)
 
-# The environment of the test of that name, whose folders are made.
+# The environment of the test of that name, whose folders are made. ZAVO_TEST_LOCALE and
+# ZAVO_TEST_ZONE set all tests to a language and a time zone.
 function(zavo_test_environment result name)
   set(home ${CMAKE_CURRENT_BINARY_DIR}/home/${name})
   set(sanitizers "")
+  set(surroundings "")
   if(ZAVO_SANITIZE)
     set(suppressions ${PROJECT_SOURCE_DIR}/cmake/leaks.supp)
     set(sanitizers "LSAN_OPTIONS=suppressions=${suppressions}:print_suppressions=0"
@@ -31,15 +33,23 @@ function(zavo_test_environment result name)
   file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/zavo)
   file(MAKE_DIRECTORY ${home}/run)
   file(CHMOD ${home}/run DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+  set(locale C.UTF-8)
+  if(ZAVO_TEST_LOCALE)
+    set(locale ${ZAVO_TEST_LOCALE})
+  endif()
+  if(ZAVO_TEST_ZONE)
+    list(APPEND surroundings TZ=${ZAVO_TEST_ZONE})
+  endif()
   set(${result}
       QT_QPA_PLATFORM=offscreen
-      LC_ALL=C.UTF-8
+      LC_ALL=${locale}
       HOME=${home}
       XDG_CONFIG_HOME=${home}/config
       XDG_DATA_HOME=${home}/data
       XDG_RUNTIME_DIR=${home}/run
       ZAVO_DATA_DIR=${home}/zavo
       ${sanitizers}
+      ${surroundings}
       PARENT_SCOPE)
 endfunction()
 
@@ -67,4 +77,18 @@ function(zavo_add_test name)
       TIMEOUT ${ARG_TIMEOUT}
       FAIL_REGULAR_EXPRESSION "${ZAVO_WARNING_EXPRESSION};QSYSTEM:"
       ENVIRONMENT "${environment}")
+endfunction()
+
+# Runs a test that is there already once more, on a machine set to that language and time zone.
+function(zavo_repeat_test name language zone)
+  set(repeated ${name}_${language})
+  add_test(NAME ${repeated} COMMAND ${name})
+  zavo_test_environment(environment ${repeated})
+  list(TRANSFORM environment REPLACE "^LC_ALL=.*" "LC_ALL=${language}.UTF-8")
+  set_tests_properties(
+    ${repeated}
+    PROPERTIES
+      TIMEOUT 120
+      FAIL_REGULAR_EXPRESSION "${ZAVO_WARNING_EXPRESSION};QSYSTEM:"
+      ENVIRONMENT "${environment};TZ=${zone}")
 endfunction()

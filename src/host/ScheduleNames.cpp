@@ -32,8 +32,9 @@ QString timeText(int ms)
         return QStringLiteral("24:00");
     const QTime time = QTime::fromMSecsSinceStartOfDay(ms);
     if (time.msec() != 0)
-        return time.toString(QStringLiteral("hh:mm:ss.zzz"));
-    return time.toString(time.second() != 0 ? QStringLiteral("hh:mm:ss") : QStringLiteral("hh:mm"));
+        return QLocale::c().toString(time, QStringLiteral("hh:mm:ss.zzz"));
+    return QLocale::c().toString(time, time.second() != 0 ? QStringLiteral("hh:mm:ss")
+                                                          : QStringLiteral("hh:mm"));
 }
 
 } // namespace Zavo::ScheduleNames

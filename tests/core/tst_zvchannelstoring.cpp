@@ -37,7 +37,7 @@ QStringList exact(const QList<ZvTime> &bands)
 {
     QStringList result;
     for (const ZvTime &band : bands)
-        result.append(band.startTime().toString(QStringLiteral("hh:mm:ss.zzz")) +
+        result.append(QLocale::c().toString(band.startTime(), QStringLiteral("hh:mm:ss.zzz")) +
                       band.endTime().toString(QStringLiteral("-hh:mm:ss.zzz ")) + band.stageName());
     return result;
 }

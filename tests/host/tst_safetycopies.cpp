@@ -43,6 +43,7 @@ private Q_SLOTS:
     void keepsTheLastTwentyBesideThePresentOne();
     void takesAnOldStateForTheNewest();
     void standsAClockThatWasPutBack();
+    void findsTheCopiesOfEveryHour();
     void copiesAndDoesNotLink();
     void keepsWhatIsRemoved();
     void keepsAgainWhatSomebodyCleared();
@@ -156,6 +157,26 @@ void tst_SafetyCopies::standsAClockThatWasPutBack()
     for (const char *content : {"one", "two"})
         QCOMPARE(m_store->keep(write(content)), BackupStore::Result::Kept);
     QCOMPARE(kept(), QList<QByteArray>({"two", "one", "future"}));
+}
+
+// The names are in universal time, of which the local time leaves out an hour in spring.
+void tst_SafetyCopies::findsTheCopiesOfEveryHour()
+{
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "Europe/Berlin");
+    for (const char *day : {"2026-03-29", "2026-10-25"}) {
+        for (int hour = 0; hour < 8; ++hour)
+            m_folder->write(QStringLiteral("backup/channel0.xml/%1T%2-30-00.125Z.xml")
+                                .arg(QLatin1String(day))
+                                .arg(hour, 2, 10, QLatin1Char('0')),
+                            day);
+    }
+    const int found = m_store->states(ZavoTest::channelFileName(0)).size();
+    if (zone.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", zone);
+    QCOMPARE(found, 16);
 }
 
 void tst_SafetyCopies::copiesAndDoesNotLink()

@@ -14,6 +14,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QLocale>
 #include <QSet>
 #include <QUndoGroup>
 #include <QUndoStack>
@@ -30,7 +31,8 @@ QString timeText(const ZvTime &time)
 {
     const auto format = QStringLiteral("HH:mm:ss.zzz");
     return QStringLiteral("%1-%2 %3")
-        .arg(time.startTime().toString(format), time.endTime().toString(format), time.stageName());
+        .arg(QLocale::c().toString(time.startTime(), format),
+             QLocale::c().toString(time.endTime(), format), time.stageName());
 }
 
 QTime rounded(QTime time)

@@ -37,7 +37,8 @@ const char *const notWritten = "Failed to create the file for automatic generati
 QString textOf(const ZvTime &time)
 {
     const QString format = QStringLiteral("hh:mm:ss.zzz");
-    return time.startTime().toString(format) + QLatin1Char('-') + time.endTime().toString(format);
+    return QLocale::c().toString(time.startTime(), format) + QLatin1Char('-') +
+           QLocale::c().toString(time.endTime(), format);
 }
 
 QStringList textOf(const QList<ZvTime> &times)

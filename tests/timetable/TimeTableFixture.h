@@ -15,6 +15,7 @@
 #include <QGraphicsRectItem>
 #include <QGraphicsTextItem>
 #include <QList>
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -52,7 +53,8 @@ inline QString textOf(const Zavo::ZvTime &time)
 {
     const QString format = QStringLiteral("hh:mm:ss.zzz");
     return QStringLiteral("%1-%2 %3")
-        .arg(time.startTime().toString(format), time.endTime().toString(format), time.stageName());
+        .arg(QLocale::c().toString(time.startTime(), format),
+             QLocale::c().toString(time.endTime(), format), time.stageName());
 }
 
 inline QStringList textOf(const QList<Zavo::ZvTime> &times)

@@ -29,8 +29,8 @@ void putTimes(const QList<ZvTime> &times)
     const QString format = QStringLiteral("hh:mm:ss.zzz");
     for (const ZvTime &time : times) {
         xml += QStringLiteral("<Time Stage=\"%1\" Start=\"%2\" End=\"%3\"/>")
-                   .arg(time.stageName(), time.startTime().toString(format),
-                        time.endTime().toString(format))
+                   .arg(time.stageName(), QLocale::c().toString(time.startTime(), format),
+                        QLocale::c().toString(time.endTime(), format))
                    .toUtf8();
     }
     auto *data = new QMimeData;

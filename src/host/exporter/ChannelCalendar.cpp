@@ -8,6 +8,7 @@
 #include <KCalendarCore/ICalFormat>
 #include <KCalendarCore/MemoryCalendar>
 
+#include <QLocale>
 #include <QTimeZone>
 
 namespace Zavo {
@@ -29,7 +30,7 @@ KCalendarCore::Event::Ptr makeEvent(const ZvChannel &channel, const DayProgramme
     const KCalendarCore::Event::Ptr event(new KCalendarCore::Event);
     event->setUid(QStringLiteral("channel-%1-%2-%3@zavo")
                       .arg(channel.id())
-                      .arg(programme.date.toString(QStringLiteral("yyyyMMdd")))
+                      .arg(QLocale::c().toString(programme.date, QStringLiteral("yyyyMMdd")))
                       .arg(slot.fromMs));
     event->setDtStart(wallClock(programme.date, slot.fromMs));
     event->setDtEnd(wallClock(programme.date, slot.toMs));

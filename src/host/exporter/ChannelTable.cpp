@@ -22,7 +22,7 @@ QByteArray timeField(QTime time)
     // The last millisecond stands for 24 o'clock.
     return time.msecsSinceStartOfDay() == lastTableMs
                ? QByteArrayLiteral("24:00:00.000")
-               : time.toString(QStringLiteral("hh:mm:ss.zzz")).toLatin1();
+               : QLocale::c().toString(time, QStringLiteral("hh:mm:ss.zzz")).toLatin1();
 }
 
 /// Kind, day and date of the schedule, with the comma behind each.

@@ -20,8 +20,8 @@ namespace Zavo {
 namespace {
 
 const QLatin1String backupFolderName("backup");
-const QLatin1String momentFormat("yyyy-MM-ddTHH-mm-ss.zzz");
-const QLatin1String copySuffix("Z.xml");
+const QLatin1String copySuffix(".xml");
+constexpr int dateLength = 10;
 
 // Of its own for each program, which may lie in the same folder; what a killed one leaves is swept.
 QString incomingName()
@@ -30,15 +30,23 @@ QString incomingName()
     return QStringLiteral(".zavo-%1-%2.tmp").arg(::getpid()).arg(s_count++);
 }
 
+// The moment in UTC as yyyy-MM-ddTHH-mm-ss.zzzZ. The formats of Qt would take the digits of the
+// system's language, and would not read an hour that the local time leaves out.
+QString copyNameOf(const QDateTime &moment)
+{
+    return moment.toUTC().toString(Qt::ISODateWithMs).replace(QLatin1Char(':'), QLatin1Char('-')) +
+           copySuffix;
+}
+
 /// The moment in which the copy was made; invalid if the name is none of a copy.
 QDateTime momentOf(const QString &copyName)
 {
-    if (!copyName.endsWith(copySuffix))
-        return {};
-    QDateTime moment =
-        QDateTime::fromString(copyName.chopped(copySuffix.size()), QString(momentFormat));
-    moment.setTimeSpec(Qt::UTC);
-    return moment;
+    QString time = copyName.mid(dateLength);
+    time.chop(copySuffix.size());
+    time.replace(QLatin1Char('-'), QLatin1Char(':'));
+    const QDateTime moment =
+        QDateTime::fromString(copyName.left(dateLength) + time, Qt::ISODateWithMs);
+    return copyNameOf(moment) == copyName ? moment : QDateTime();
 }
 
 bool hasBytes(const QString &path, const QByteArray &bytes)
@@ -55,7 +63,7 @@ bool putInPlace(QFile *file, const QString &path)
     const QFileInfo info(path);
     QDateTime moment = momentOf(info.fileName());
     for (int tries = 0; tries < maximumTries; ++tries) {
-        const QString name = moment.toString(QString(momentFormat)) + copySuffix;
+        const QString name = copyNameOf(moment);
         const QString next = Path::combine(info.path(), name);
         if (file->rename(next))
             return true;
@@ -181,7 +189,7 @@ QString BackupStore::pathOfNext(const QString &fileName, const QStringList &copi
     QDateTime moment = QDateTime::currentDateTimeUtc();
     if (!copies.isEmpty())
         moment = qMax(moment, momentOf(copies.constFirst()).addMSecs(1));
-    return Path::combine(folderOf(fileName), moment.toString(QString(momentFormat)) + copySuffix);
+    return Path::combine(folderOf(fileName), copyNameOf(moment));
 }
 
 bool BackupStore::write(const QString &path, const QByteArray &bytes, const Origin &origin)

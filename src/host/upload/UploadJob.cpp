@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QRegularExpression>
 
 namespace Zavo {
@@ -286,8 +287,9 @@ void UploadJob::onLooked()
     const bool isFilled = names.contains(QLatin1String(UploadNames::channelFolder)) ||
                           names.contains(QLatin1String(UploadNames::stageFolder));
     if (!isOurs && isFilled)
-        m_keptFolder = QLatin1String(UploadNames::keptPrefix) +
-                       QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss"));
+        m_keptFolder =
+            QLatin1String(UploadNames::keptPrefix) +
+            QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyyMMdd-hhmmss"));
     startStep(Step::Assemble);
 }
 

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 
 namespace Zavo {
 
@@ -44,7 +45,8 @@ bool UploadLog::begin()
 
 void UploadLog::write(const QString &line)
 {
-    append(QDateTime::currentDateTime().toString(QStringLiteral("hh:mm:ss  ")) + oneLine(line));
+    append(QLocale::c().toString(QTime::currentTime(), QStringLiteral("hh:mm:ss  ")) +
+           oneLine(line));
 }
 
 void UploadLog::writeDetails(const QStringList &lines)
@@ -58,7 +60,8 @@ void UploadLog::putAside()
     const QFileInfo last(m_file);
     if (!last.exists())
         return;
-    const QString time = last.lastModified().toString(QStringLiteral("yyyy-MM-dd hh-mm-ss.zzz"));
+    const QString time =
+        QLocale::c().toString(last.lastModified(), QStringLiteral("yyyy-MM-dd hh-mm-ss.zzz"));
     for (int number = 1; number < mostLogsAside; ++number) {
         const QString more = number == 1 ? QString() : QStringLiteral("_%1").arg(number);
         const QString name = QStringLiteral("%1%2 %3").arg(time, more, logName);

@@ -3,6 +3,7 @@
 #include "storage/XmlText.h"
 
 #include <QDate>
+#include <QLocale>
 #include <QTime>
 
 namespace Zavo {
@@ -48,7 +49,7 @@ QString typeText(const ZvSchedule &schedule)
 {
     switch (schedule.type()) {
     case ZvSchedule::Date:
-        return schedule.date().toString(dateFormat());
+        return QLocale::c().toString(schedule.date(), dateFormat());
     case ZvSchedule::DayOfWeek:
         return QString::number(schedule.dayOfWeek());
     default:
@@ -60,7 +61,7 @@ void applyType(const QString &type, ZvSchedule *schedule)
 {
     if (type == QLatin1String(defaultType))
         return;
-    const QDate date = QDate::fromString(type, dateFormat());
+    const QDate date = QLocale::c().toDate(type, dateFormat());
     if (date.isValid()) {
         schedule->setDate(date);
         return;
@@ -150,12 +151,14 @@ void ClipboardXmlWriter::writeSchedule(const ZvSchedule &schedule)
 void ClipboardXmlWriter::writeTimeData(const QList<ZvTime> &times)
 {
     const QString format = QStringLiteral("hh:mm:ss");
+    // A time by itself would write the digits of the system's language.
+    const QLocale plain = QLocale::c();
     m_writer.writeStartElement(latin(timeDataElement));
     for (const ZvTime &time : times) {
         m_writer.writeStartElement(latin(timeElement));
         writeStageName(stageAttribute, time.stageName());
-        m_writer.writeAttribute(latin(startAttribute), time.startTime().toString(format));
-        m_writer.writeAttribute(latin(endAttribute), time.endTime().toString(format));
+        m_writer.writeAttribute(latin(startAttribute), plain.toString(time.startTime(), format));
+        m_writer.writeAttribute(latin(endAttribute), plain.toString(time.endTime(), format));
         writeEscapedMark(time.stageName());
         m_writer.writeEndElement();
     }
