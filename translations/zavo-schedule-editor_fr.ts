@@ -3067,7 +3067,7 @@ Le traitement a été interrompu.</translation>
     <name>Zavo::ZvTodayWidget</name>
     <message>
         <source>Today:</source>
-        <translation>Ce jour&#xa0;:</translation>
+        <translation>Auj.&#xa0;:</translation>
     </message>
     <message>
         <source>Move to Today</source>

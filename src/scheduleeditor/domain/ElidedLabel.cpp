@@ -24,10 +24,14 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
     }
     QPainter painter(this);
     drawFrame(&painter);
-    const QString text =
-        fontMetrics().elidedText(this->text(), Qt::ElideRight, contentsRect().width());
-    style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
-                          isEnabled(), text, foregroundRole());
+    // Within a frame the whole text keeps that distance too.
+    const int inset = indent() < 0 && frameWidth() > 0
+                          ? fontMetrics().horizontalAdvance(QLatin1Char('x')) / 2
+                          : 0;
+    const QRect room = contentsRect().adjusted(inset, 0, -inset, 0);
+    const QString text = fontMetrics().elidedText(this->text(), Qt::ElideRight, room.width());
+    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                          text, foregroundRole());
 }
 
 } // namespace Zavo

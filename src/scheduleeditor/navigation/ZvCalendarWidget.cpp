@@ -5,6 +5,8 @@
 #include "navigation/CalendarPage.h"
 #include "navigation/NavigationNames.h"
 
+#include "ZvSystemInfo.h"
+
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -91,16 +93,26 @@ void ZvCalendarWidget::setupYearButton()
     button->installEventFilter(this);
 }
 
-int ZvCalendarWidget::widthOfDayNames() const
+// The base class asks for as much width as the names of days need, which is more in some languages
+// than a dock has at first.
+void ZvCalendarWidget::fitDayNames()
 {
     constexpr int columns = 8; // with the week numbers
-    constexpr int gapPx = 2;
-    int widest = 0;
+    constexpr int columnPx = 35;
+    constexpr int marginsPx = 7;
+    int widest = 1;
     for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
         const QString name = locale().dayName(day, QLocale::ShortFormat);
         widest = qMax(widest, fontMetrics().horizontalAdvance(name));
     }
-    return columns * (widest + gapPx);
+    const double ratio = ZvSystemInfo::getDpiRatio(this);
+    setMinimumWidth(static_cast<int>(columns * columnPx * ratio));
+    const double share = (columnPx * ratio - marginsPx) / widest;
+    if (share >= 1.0)
+        return;
+    QTextCharFormat format = headerTextFormat();
+    format.setFontPointSize(font().pointSizeF() * share);
+    setHeaderTextFormat(format);
 }
 
 void ZvCalendarWidget::setupView()
@@ -109,9 +121,7 @@ void ZvCalendarWidget::setupView()
         return;
     m_calendarView->setAccessibleName(tr("Calendar"));
     m_calendarView->setAttribute(Qt::WA_MouseTracking);
-    // The base class asks for margins around the names of days that not every language has in a
-    // dock.
-    setMinimumWidth(widthOfDayNames());
+    fitDayNames();
     m_calendarView->installEventFilter(this);
     // Another page puts another date under a mouse that rests.
     connect(this, SIGNAL(currentPageChanged(int,int)), this, SLOT(forgetHoveredCell()));

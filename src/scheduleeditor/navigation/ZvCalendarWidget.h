@@ -101,7 +101,7 @@ private:
     void setupNavigationBar();
     void setupMonthButton();
     void setupYearButton();
-    int widthOfDayNames() const;
+    void fitDayNames();
     void setupView();
 
     void changeSelection(const QDate &date, Qt::KeyboardModifiers modifiers);
