@@ -41,6 +41,7 @@ using Zavo::ZvSchedule;
 using ZavoTest::DialogAnswer;
 using ZavoTest::DragGesture;
 using ZavoTest::MessageBoxAnswer;
+using ZavoTest::ReadOnlyFolder;
 using ZavoTest::TemporaryDataFolder;
 using ZavoTest::UnremovableFile;
 
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void asksBeforeItSaves();
     void staysOpenWhileItAsks();
     void tellsOfABasicFileThatStays();
+    void keepsWhatCouldNotBeSaved();
     void keepsWhatTheResetRemoves();
     void showsTheCopies();
     void showsAThousandChannelsAtOnce();
@@ -356,6 +358,29 @@ void tst_SafetyDesk::tellsOfABasicFileThatStays()
     trigger("Action_Save_Channel");
     QVERIFY(notices()->isHidden());
     QCOMPARE(m_folder->read(QStringLiteral("channel/channel.xml")), channel());
+}
+
+void tst_SafetyDesk::keepsWhatCouldNotBeSaved()
+{
+    const QByteArray before = channel();
+    drop();
+    {
+        const ReadOnlyFolder readOnly(m_folder->channelFolder());
+        if (!readOnly.isEffective())
+            QSKIP("this machine cannot make a folder read-only");
+        MessageBoxAnswer answer;
+        answer.expect(QMessageBox::Ok);
+        trigger("Action_Save_Channel");
+        QVERIFY(answer.isDone());
+    }
+    QCOMPARE(channel(), before);
+    const QList<BackupState> states = m_net->store()->states(QStringLiteral("channel0.xml"));
+    QCOMPARE(states.size(), 2);
+    ZvChannel kept(states.last().path);
+    QVERIFY(kept.readFile());
+    QCOMPARE(kept.scheduleList().constFirst().timeList().size(), 1);
+    trigger("Action_Save_Channel");
+    QVERIFY(channel() != before);
 }
 
 void tst_SafetyDesk::keepsWhatTheResetRemoves()

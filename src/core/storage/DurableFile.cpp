@@ -207,8 +207,12 @@ bool DurableFile::write(const QString &filePath, const QByteArray &bytes)
 {
     if (filePath.isEmpty() || filePath.contains(QChar::Null))
         return false;
+    FileSystemCalls &calls = FileSystemCalls::current();
     const QString target = targetOf(filePath);
-    return !target.isEmpty() && Replacement(target, FileSystemCalls::current()).run(bytes);
+    if (!target.isEmpty() && Replacement(target, calls).run(bytes))
+        return true;
+    calls.onNotReplaced(filePath, bytes);
+    return false;
 }
 
 } // namespace Zavo

@@ -89,4 +89,6 @@ int FileSystemCalls::unlink(const char *path)
     return ::unlink(path);
 }
 
+void FileSystemCalls::onNotReplaced(const QString &, const QByteArray &) {}
+
 } // namespace Zavo

@@ -2,7 +2,8 @@
 
 #include "ZvCoreExport.h"
 
-#include <QtGlobal>
+#include <QByteArray>
+#include <QString>
 
 #include <sys/stat.h>
 #include <sys/types.h>
@@ -37,6 +38,10 @@ public:
     virtual int link(const char *from, const char *to);
     virtual int rename(const char *from, const char *to);
     virtual int unlink(const char *path);
+
+    /// Told by DurableFile that a file could not be replaced, and with what; the file is the old
+    /// one, or there is none. Does nothing by itself.
+    virtual void onNotReplaced(const QString &filePath, const QByteArray &bytes);
 };
 
 } // namespace Zavo

@@ -3,8 +3,6 @@
 #include "safety/BackupStore.h"
 #include "safety/ChannelStates.h"
 #include "safety/FileStamp.h"
-#include "storage/BoundedFile.h"
-#include "storage/ChannelFile.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -40,7 +38,6 @@ int ChannelGuard::rename(const char *from, const char *to)
     if (filePath.isEmpty())
         return FileSystemCalls::rename(from, to);
     if (m_states->isChangedByOthers(filePath) && !mayReplace(filePath)) {
-        keepRefused(filePath, QFile::decodeName(from));
         errno = ECANCELED;
         return -1;
     }
@@ -71,18 +68,19 @@ void ChannelGuard::keepReplaced(const QString &filePath, QFile *ours)
     m_store->keep(filePath);
 }
 
+void ChannelGuard::onNotReplaced(const QString &filePath, const QByteArray &bytes)
+{
+    const QString channelFile = m_states->channelFileOf(filePath);
+    if (channelFile.isEmpty())
+        return;
+    m_store->keepBytes(QFileInfo(channelFile).fileName(), bytes);
+    // The present state is the newest again.
+    m_store->keep(channelFile);
+}
+
 bool ChannelGuard::mayReplace(const QString &filePath) const
 {
     return m_question && QThread::currentThread() == qApp->thread() && m_question(filePath);
-}
-
-void ChannelGuard::keepRefused(const QString &filePath, const QString &newFilePath)
-{
-    QByteArray bytes;
-    if (BoundedFile::read(newFilePath, ChannelFile::MaximumBytes, &bytes))
-        m_store->keepBytes(QFileInfo(filePath).fileName(), bytes);
-    // The present state is the newest again.
-    m_store->keep(filePath);
 }
 
 } // namespace Zavo

@@ -32,14 +32,16 @@ public:
     /// program is replaced.
     void setQuestion(const Question &question);
 
-    /// Replaces a channel file only if nobody objects; otherwise it fails with ECANCELED, and what
-    /// should have been written is kept among the copies.
+    /// Replaces a channel file only if nobody objects; otherwise it fails with ECANCELED.
     int rename(const char *from, const char *to) override;
+
+    /// Keeps what should have been written to a channel file among the copies, whatever was in the
+    /// way.
+    void onNotReplaced(const QString &filePath, const QByteArray &bytes) override;
 
 private:
     bool mayReplace(const QString &filePath) const;
     void keepReplaced(const QString &filePath, QFile *ours);
-    void keepRefused(const QString &filePath, const QString &newFilePath);
 
     ChannelStates *m_states = nullptr;
     BackupStore *m_store = nullptr;
