@@ -2,11 +2,11 @@
 
 #include "ChannelFiles.h"
 #include "HostWindow.h"
+#include "SlowDisk.h"
 #include "TemporaryDataFolder.h"
 #include "check/CheckCommand.h"
 #include "check/CheckFindingModel.h"
 #include "check/CheckNames.h"
-#include "storage/FileSystemCalls.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -27,27 +27,10 @@ using Zavo::CheckDialog;
 using Zavo::CheckFinding;
 using Zavo::CheckFindingModel;
 using Zavo::HostWindow;
+using ZavoTest::SlowDisk;
 using ZavoTest::TemporaryDataFolder;
 
 namespace CheckNames = Zavo::CheckNames;
-
-namespace {
-
-/// While it lives, a disk that takes its time to open a file.
-class SlowDisk final : public Zavo::FileSystemCalls
-{
-public:
-    SlowDisk() { setCurrent(this); }
-    ~SlowDisk() override { setCurrent(nullptr); }
-
-    int open(const char *path, int flags, mode_t mode) override
-    {
-        QThread::msleep(40);
-        return FileSystemCalls::open(path, flags, mode);
-    }
-};
-
-} // namespace
 
 class tst_CheckDialog : public QObject
 {

@@ -2,6 +2,7 @@
 
 #include "ZvSystemInfo.h"
 #include "check/CheckFindingModel.h"
+#include "check/CheckFindingView.h"
 #include "check/CheckNames.h"
 #include "check/CheckText.h"
 #include "check/CheckThread.h"
@@ -9,7 +10,6 @@
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QHideEvent>
 #include <QLabel>
 #include <QProgressBar>
@@ -24,7 +24,6 @@ constexpr int checkProgressDelayMs = 500;
 constexpr int checkProgressIntervalMs = 100;
 // Times the ratio of the screen.
 constexpr QSize checkDialogSize(860, 460);
-constexpr int columnWidths[] = {110, 130, 130};
 } // namespace
 
 CheckDialog::CheckDialog(QWidget *parent)
@@ -123,8 +122,7 @@ void CheckDialog::makeWidgets()
         tr("The files of the data folder are checked. What is not saved yet is not."), this);
     explanation->setWordWrap(true);
     layout->addWidget(explanation);
-    makeFindings();
-    layout->addWidget(m_findings);
+    layout->addWidget(createFindingView(m_model, this));
     m_summary = new QLabel(this);
     m_summary->setObjectName(QLatin1String(CheckNames::summary));
     m_summary->setTextFormat(Qt::PlainText);
@@ -139,21 +137,6 @@ void CheckDialog::makeWidgets()
     m_progress->setSizePolicy(policy);
     layout->addWidget(m_progress);
     makeButtons();
-}
-
-void CheckDialog::makeFindings()
-{
-    m_findings = new QTreeView(this);
-    m_findings->setObjectName(QLatin1String(CheckNames::findings));
-    m_findings->setAccessibleName(tr("Findings"));
-    m_findings->setModel(m_model);
-    m_findings->setRootIsDecorated(false);
-    m_findings->setUniformRowHeights(true);
-    m_findings->setAlternatingRowColors(true);
-    m_findings->setAllColumnsShowFocus(true);
-    for (int column = 0; column < CheckFindingModel::FindingText; ++column)
-        m_findings->setColumnWidth(column,
-                                   qRound(columnWidths[column] * ZvSystemInfo::getDpiRatio(this)));
 }
 
 void CheckDialog::makeButtons()

@@ -8,7 +8,6 @@
 class QLabel;
 class QProgressBar;
 class QPushButton;
-class QTreeView;
 
 namespace Zavo {
 
@@ -50,7 +49,6 @@ private Q_SLOTS:
 
 private:
     void makeWidgets();
-    void makeFindings();
     void makeButtons();
     void showRunning(bool running);
 
@@ -59,7 +57,6 @@ private:
     CheckFindingModel *m_model = nullptr;
     QLabel *m_summary = nullptr;
     QProgressBar *m_progress = nullptr;
-    QTreeView *m_findings = nullptr;
     QPushButton *m_againButton = nullptr;
     QPushButton *m_cancelButton = nullptr;
     QPushButton *m_copyButton = nullptr;
