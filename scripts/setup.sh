@@ -17,6 +17,8 @@ if [[ "$group" == test || "$group" == lint ]]; then
   packages+=(
     # Read what the program exported.
     python3 poppler-utils
+  # An upload by ssh is tested with a server of its own.
+  openssh-client openssh-server
     # A display for the test that copies from one program to another.
     xvfb
     # Make the packages, look at them and at what goes along with the program, and install it.

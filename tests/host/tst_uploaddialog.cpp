@@ -4,6 +4,7 @@
 
 #include "MessageBoxAnswer.h"
 #include "SignalLog.h"
+#include "SlowDisk.h"
 #include "UploadBench.h"
 #include "editor/ZvScheduleEditor.h"
 
@@ -52,6 +53,12 @@ private Q_SLOTS:
     void retriesWhatFailed();
     void cancels();
     void goesOnWhileItIsClosed();
+    void asksAboutFindings();
+    void asksThoughItIsClosed();
+    void asksAtARetryOnlyWhatIsNew();
+    void uploadsNothingThatCannotBeChecked();
+    void showsTheProgressOfTheCheck();
+    void givesUpAtTheEndOfTheProgram();
     void tellsWhatIsMissing();
     void hasNamesForAll();
     void opensFromTheMenu();
@@ -66,6 +73,13 @@ private:
     QString result(int row) const { return list()->topLevelItem(row)->text(2); }
     QString summary() const;
     void check(int row) const;
+    /// The question about findings, once it is there; null if it does not come.
+    QDialog *question() const;
+    void answer(const char *name) const;
+    void writeFaultyChannel() const
+    {
+        ZavoTest::writeChannel(*m_folder, 1, QStringLiteral("b.xml"));
+    }
     /// Clicks the button, writes the address into the dialog that opens and answers it.
     void enterAddress(const char *name, const QString &address, Qt::Key answer = Qt::Key_Return);
     QStringList addresses() const;
@@ -81,7 +95,14 @@ void tst_UploadDialog::init()
     m_folder = std::make_unique<TemporaryDataFolder>();
     m_targets = std::make_unique<QTemporaryDir>();
     m_folder->writeStage(QStringLiteral("a.xml"));
-    ZavoTest::writeChannel(*m_folder, 0, QStringLiteral("a.xml"));
+    Zavo::ZvSchedule schedule;
+    schedule.setType(Zavo::ZvSchedule::Default);
+    schedule.setDefaultStage(QStringLiteral("a.xml"));
+    m_folder->makeFolder(QStringLiteral("channel"));
+    Zavo::ZvChannel sound(m_folder->filePath(QStringLiteral("channel/channel0.xml")));
+    sound.setName(QStringLiteral("Lobby"));
+    sound.insertSchedule(schedule);
+    QVERIFY(sound.writeToFile());
 }
 
 void tst_UploadDialog::cleanup()
@@ -135,6 +156,23 @@ void tst_UploadDialog::check(int row) const
     list()->setCurrentItem(list()->topLevelItem(row));
     list()->setFocus();
     QTest::keyClick(list(), Qt::Key_Space);
+}
+
+QDialog *tst_UploadDialog::question() const
+{
+    const auto found = [this] {
+        return m_dialog->findChild<QDialog *>(QLatin1String(Names::findingsDialog));
+    };
+    return QTest::qWaitFor([&] { return found() && found()->isVisible(); }, longestUploadMs)
+               ? found()
+               : nullptr;
+}
+
+void tst_UploadDialog::answer(const char *name) const
+{
+    QDialog *const dialog = question();
+    QVERIFY(dialog);
+    QTest::mouseClick(dialog->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
 }
 
 void tst_UploadDialog::enterAddress(const char *name, const QString &address, Qt::Key answer)
@@ -311,12 +349,124 @@ void tst_UploadDialog::goesOnWhileItIsClosed()
     QCOMPARE(result(0), QStringLiteral("Complete."));
 }
 
+void tst_UploadDialog::asksAboutFindings()
+{
+    writeFaultyChannel();
+    show({folder(QStringLiteral("a"))});
+    click(Names::uploadButton);
+    QDialog *const asked = question();
+    QVERIFY(asked);
+    QVERIFY(m_dialog->isUploading());
+    QVERIFY(!button(Names::uploadButton)->isEnabled());
+    const QAbstractItemModel *const findings = asked->findChild<QTreeView *>()->model();
+    QCOMPARE(findings->rowCount(), 2);
+    QVERIFY2(findings->index(0, 0).data().toString() == QLatin1String("channel1.xml"),
+             qPrintable(findings->index(0, 0).data().toString()));
+    // What is pressed without reading sends nothing.
+    QTest::keyClick(asked, Qt::Key_Return);
+    QTRY_VERIFY(!m_dialog->isUploading());
+    QCOMPARE(summary(), QStringLiteral("Nothing was uploaded."));
+    QVERIFY(filesBelow(folder(QStringLiteral("a"))).isEmpty());
+    QVERIFY(!m_folder->names().contains(QStringLiteral("Log")));
+
+    click(Names::uploadButton);
+    answer(Names::goOnButton);
+    QTRY_VERIFY_WITH_TIMEOUT(summary().startsWith(QStringLiteral("1 complete")), longestUploadMs);
+    QVERIFY(!filesBelow(folder(QStringLiteral("a"))).isEmpty());
+    const QByteArray log = m_folder->read(QStringLiteral("Log/Editor/UploadLog.txt"));
+    QVERIFY(log.contains("The check found 2 thing(s):"));
+    QVERIFY(log.contains("channel1.xml: Ch.1:"));
+    // What was accepted once is asked about again by the next upload.
+    click(Names::uploadButton);
+    answer(Names::stopButton);
+    QTRY_COMPARE(summary(), QStringLiteral("Nothing was uploaded."));
+}
+
+void tst_UploadDialog::asksThoughItIsClosed()
+{
+    writeFaultyChannel();
+    show({folder(QStringLiteral("a"))});
+    click(Names::uploadButton);
+    click(Names::closeButton);
+    QVERIFY(question());
+    QVERIFY(m_dialog->isVisible());
+    QTest::keyClick(question(), Qt::Key_Escape);
+    QTRY_VERIFY(!m_dialog->isUploading());
+    QVERIFY(filesBelow(folder(QStringLiteral("a"))).isEmpty());
+}
+
+void tst_UploadDialog::asksAtARetryOnlyWhatIsNew()
+{
+    writeFaultyChannel();
+    const QString late = m_targets->filePath(QStringLiteral("late"));
+    show({late});
+    click(Names::uploadButton);
+    answer(Names::goOnButton);
+    QTRY_VERIFY_WITH_TIMEOUT(summary().startsWith(QStringLiteral("0 complete, 1 failed")),
+                             longestUploadMs);
+    click(Names::retryButton);
+    QTRY_VERIFY_WITH_TIMEOUT(summary().startsWith(QStringLiteral("0 complete, 1 failed")),
+                             longestUploadMs);
+    ZavoTest::writeChannel(*m_folder, 2, QStringLiteral("c.xml"));
+    QDir().mkpath(late);
+    click(Names::retryButton);
+    answer(Names::goOnButton);
+    QTRY_VERIFY_WITH_TIMEOUT(summary().startsWith(QStringLiteral("1 complete")), longestUploadMs);
+}
+
+void tst_UploadDialog::uploadsNothingThatCannotBeChecked()
+{
+    show({folder(QStringLiteral("a"))});
+    QVERIFY(QDir(m_folder->channelFolder()).removeRecursively());
+    m_folder->write(QStringLiteral("channel"), "a file");
+    click(Names::uploadButton);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_dialog->isUploading(), longestUploadMs);
+    QVERIFY2(summary().contains(m_folder->channelFolder()), qPrintable(summary()));
+    QVERIFY(filesBelow(folder(QStringLiteral("a"))).isEmpty());
+}
+
+void tst_UploadDialog::showsTheProgressOfTheCheck()
+{
+    for (int number = 1; number < 100; ++number)
+        ZavoTest::writeChannel(*m_folder, number, QStringLiteral("a.xml"));
+    show({folder(QStringLiteral("a"))});
+    {
+        const ZavoTest::SlowDisk slow;
+        click(Names::uploadButton);
+        QTRY_VERIFY_WITH_TIMEOUT(summary().contains(QStringLiteral("of 100 files")),
+                                 longestUploadMs);
+        click(Names::cancelButton);
+        QTRY_COMPARE_WITH_TIMEOUT(summary(), QStringLiteral("Cancelled before anything was sent."),
+                                  longestUploadMs);
+    }
+    QVERIFY(!m_dialog->isUploading());
+    QVERIFY(filesBelow(folder(QStringLiteral("a"))).isEmpty());
+}
+
+void tst_UploadDialog::givesUpAtTheEndOfTheProgram()
+{
+    writeFaultyChannel();
+    show({folder(QStringLiteral("a"))});
+    click(Names::uploadButton);
+    QVERIFY(question());
+    m_dialog->cancelUpload();
+    QTRY_VERIFY(!m_dialog->isUploading());
+    click(Names::uploadButton);
+    m_dialog.reset();
+    show({folder(QStringLiteral("a"))});
+    click(Names::uploadButton);
+    QVERIFY(question());
+    m_dialog.reset();
+    QVERIFY(filesBelow(folder(QStringLiteral("a"))).isEmpty());
+}
+
 void tst_UploadDialog::tellsWhatIsMissing()
 {
-    ZavoTest::writeChannel(*m_folder, 1, QStringLiteral("gone.xml"));
+    writeFaultyChannel();
     m_folder->write(QStringLiteral("Log"), "no folder");
     show({folder(QStringLiteral("a"))});
     click(Names::uploadButton);
+    answer(Names::goOnButton);
     QTRY_VERIFY_WITH_TIMEOUT(summary().startsWith(QStringLiteral("1 complete")), longestUploadMs);
     QVERIFY(summary().contains(QStringLiteral("1 thing(s) to note")));
     QVERIFY(summary().contains(QStringLiteral("The log cannot be written")));

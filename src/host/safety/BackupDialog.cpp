@@ -74,8 +74,9 @@ void BackupDialog::showStates()
         m_states = m_store->states(channel->data(Qt::UserRole).toString());
     for (const BackupState &state : qAsConst(m_states)) {
         auto *const item = new QTreeWidgetItem(m_tree);
-        item->setText(DateColumn,
-                      QLocale().toString(state.modified, QStringLiteral("yyyy-MM-dd  HH:mm:ss")));
+        const QString time =
+            QLocale().toString(state.modified, QStringLiteral("yyyy-MM-dd  HH:mm:ss"));
+        item->setText(DateColumn, state.wasAtTarget ? tr("%1  at a target").arg(time) : time);
         item->setToolTip(DateColumn, QDir::toNativeSeparators(state.path));
         item->setText(DifferenceColumn, tr("..."));
         m_itemOfPath.insert(state.path, item);

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <functional>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,6 +22,7 @@ namespace {
 
 const QLatin1String backupFolderName("backup");
 const QLatin1String copySuffix(".xml");
+const QLatin1String targetCopySuffix("-target.xml");
 constexpr int dateLength = 10;
 
 // Of its own for each program, which may lie in the same folder; what a killed one leaves is swept.
@@ -32,21 +34,23 @@ QString incomingName()
 
 // The moment in UTC as yyyy-MM-ddTHH-mm-ss.zzzZ. The formats of Qt would take the digits of the
 // system's language, and would not read an hour that the local time leaves out.
-QString copyNameOf(const QDateTime &moment)
+QString copyNameOf(const QDateTime &moment, QLatin1String suffix)
 {
     return moment.toUTC().toString(Qt::ISODateWithMs).replace(QLatin1Char(':'), QLatin1Char('-')) +
-           copySuffix;
+           suffix;
 }
 
 /// The moment in which the copy was made; invalid if the name is none of a copy.
-QDateTime momentOf(const QString &copyName)
+QDateTime momentOf(const QString &copyName, QLatin1String suffix)
 {
+    if (!copyName.endsWith(suffix))
+        return {};
     QString time = copyName.mid(dateLength);
-    time.chop(copySuffix.size());
+    time.chop(suffix.size());
     time.replace(QLatin1Char('-'), QLatin1Char(':'));
     const QDateTime moment =
         QDateTime::fromString(copyName.left(dateLength) + time, Qt::ISODateWithMs);
-    return copyNameOf(moment) == copyName ? moment : QDateTime();
+    return copyNameOf(moment, suffix) == copyName ? moment : QDateTime();
 }
 
 bool hasBytes(const QString &path, const QByteArray &bytes)
@@ -61,9 +65,10 @@ bool putInPlace(QFile *file, const QString &path)
 {
     constexpr int maximumTries = 100;
     const QFileInfo info(path);
-    QDateTime moment = momentOf(info.fileName());
+    const QLatin1String suffix = path.endsWith(targetCopySuffix) ? targetCopySuffix : copySuffix;
+    QDateTime moment = momentOf(info.fileName(), suffix);
     for (int tries = 0; tries < maximumTries; ++tries) {
-        const QString name = copyNameOf(moment);
+        const QString name = copyNameOf(moment, suffix);
         const QString next = Path::combine(info.path(), name);
         if (file->rename(next))
             return true;
@@ -93,11 +98,13 @@ QStringList BackupStore::fileNames() const
 QList<BackupState> BackupStore::states(const QString &fileName) const
 {
     const QMutexLocker locker(&m_mutex);
+    QStringList copies = ownCopiesOf(fileName) + copiesOf(fileName, targetCopySuffix);
+    std::sort(copies.begin(), copies.end(), std::greater<>());
     QList<BackupState> states;
-    const QStringList copies = copiesOf(fileName);
-    for (const QString &copy : copies) {
+    for (const QString &copy : qAsConst(copies)) {
         const QString path = Path::combine(folderOf(fileName), copy);
-        states.append({fileName, path, QFileInfo(path).lastModified()});
+        states.append(
+            {fileName, path, QFileInfo(path).lastModified(), copy.endsWith(targetCopySuffix)});
     }
     return states;
 }
@@ -125,8 +132,9 @@ BackupStore::Result BackupStore::keep(const QString &filePath)
         keepState(info.fileName(), bytes, {info.lastModified(), info.permissions()});
     // A file that was written to while it was read is looked at again.
     if (result != Result::Failed && FileStamp::of(filePath) == stamp) {
-        m_kept.insert(info.fileName(), {stamp, Path::combine(folderOf(info.fileName()),
-                                                             copiesOf(info.fileName()).value(0))});
+        m_kept.insert(info.fileName(),
+                      {stamp, Path::combine(folderOf(info.fileName()),
+                                            ownCopiesOf(info.fileName()).value(0))});
     }
     return result;
 }
@@ -136,6 +144,26 @@ BackupStore::Result BackupStore::keepBytes(const QString &fileName, const QByteA
     const QMutexLocker locker(&m_mutex);
     m_kept.remove(fileName);
     return keepState(fileName, bytes, {QDateTime::currentDateTime(), {}});
+}
+
+BackupStore::Result BackupStore::keepFromTarget(const QString &fileName, const QByteArray &bytes,
+                                                const QDateTime &modified)
+{
+    const QMutexLocker locker(&m_mutex);
+    const QString folder = folderOf(fileName);
+    if (!QDir().mkpath(folder))
+        return fail(tr("The folder \"%1\" cannot be made.").arg(QDir::toNativeSeparators(folder)));
+    const QStringList copies = copiesOf(fileName, targetCopySuffix);
+    const QStringList all = ownCopiesOf(fileName) + copies;
+    const bool isKnown = std::any_of(all.cbegin(), all.cend(), [&](const QString &copy) {
+        return hasBytes(Path::combine(folder, copy), bytes);
+    });
+    if (isKnown)
+        return Result::Unchanged;
+    if (!write(pathOfNext(fileName, copies, targetCopySuffix), bytes, {modified, {}}))
+        return Result::Failed;
+    removeBehind(MaximumTargetStates, fileName, copiesOf(fileName, targetCopySuffix));
+    return Result::Kept;
 }
 
 void BackupStore::sync() const
@@ -153,13 +181,19 @@ QString BackupStore::folderOf(const QString &fileName) const
     return Path::combine(m_folder, fileName);
 }
 
-QStringList BackupStore::copiesOf(const QString &fileName) const
+QStringList BackupStore::ownCopiesOf(const QString &fileName) const
+{
+    return copiesOf(fileName, copySuffix);
+}
+
+QStringList BackupStore::copiesOf(const QString &fileName, QLatin1String suffix) const
 {
     QStringList copies =
         QDir(folderOf(fileName)).entryList(QDir::Files, QDir::Name | QDir::Reversed);
-    copies.erase(std::remove_if(copies.begin(), copies.end(),
-                                [](const QString &name) { return !momentOf(name).isValid(); }),
-                 copies.end());
+    copies.erase(
+        std::remove_if(copies.begin(), copies.end(),
+                       [suffix](const QString &name) { return !momentOf(name, suffix).isValid(); }),
+        copies.end());
     return copies;
 }
 
@@ -169,27 +203,28 @@ BackupStore::Result BackupStore::keepState(const QString &fileName, const QByteA
     const QString folder = folderOf(fileName);
     if (!QDir().mkpath(folder))
         return fail(tr("The folder \"%1\" cannot be made.").arg(QDir::toNativeSeparators(folder)));
-    const QStringList copies = copiesOf(fileName);
+    const QStringList copies = ownCopiesOf(fileName);
     const auto same = std::find_if(copies.cbegin(), copies.cend(), [&](const QString &copy) {
         return hasBytes(Path::combine(folder, copy), bytes);
     });
     if (same != copies.cend() && same == copies.cbegin())
         return Result::Unchanged;
-    if (!write(pathOfNext(fileName, copies), bytes, origin))
+    if (!write(pathOfNext(fileName, copies, copySuffix), bytes, origin))
         return Result::Failed;
     if (same != copies.cend())
         QFile::remove(Path::combine(folder, *same));
-    removeOldest(fileName);
+    removeBehind(MaximumEarlierStates + 1, fileName, ownCopiesOf(fileName));
     return Result::Kept;
 }
 
 // Later than every other, also if the clock was put back.
-QString BackupStore::pathOfNext(const QString &fileName, const QStringList &copies) const
+QString BackupStore::pathOfNext(const QString &fileName, const QStringList &copies,
+                                QLatin1String suffix) const
 {
     QDateTime moment = QDateTime::currentDateTimeUtc();
     if (!copies.isEmpty())
-        moment = qMax(moment, momentOf(copies.constFirst()).addMSecs(1));
-    return Path::combine(folderOf(fileName), copyNameOf(moment));
+        moment = qMax(moment, momentOf(copies.constFirst(), suffix).addMSecs(1));
+    return Path::combine(folderOf(fileName), copyNameOf(moment, suffix));
 }
 
 bool BackupStore::write(const QString &path, const QByteArray &bytes, const Origin &origin)
@@ -208,10 +243,9 @@ bool BackupStore::write(const QString &path, const QByteArray &bytes, const Orig
     return false;
 }
 
-void BackupStore::removeOldest(const QString &fileName)
+void BackupStore::removeBehind(int count, const QString &fileName, const QStringList &copies) const
 {
-    const QStringList copies = copiesOf(fileName);
-    for (int index = MaximumEarlierStates + 1; index < copies.size(); ++index)
+    for (int index = count; index < copies.size(); ++index)
         QFile::remove(Path::combine(folderOf(fileName), copies.at(index)));
 }
 

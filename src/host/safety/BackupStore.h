@@ -16,15 +16,17 @@ namespace Zavo {
 /// One state of a channel file that was kept.
 struct BackupState
 {
-    QString fileName;   ///< of the channel file, without its folder
-    QString path;       ///< of the copy
-    QDateTime modified; ///< when the file got this state
+    QString fileName;         ///< of the channel file, without its folder
+    QString path;             ///< of the copy
+    QDateTime modified;       ///< when the file got this state
+    bool wasAtTarget = false; ///< an upload replaced or removed it at a target
 };
 
 /// The safety copies in "backup" of a data folder: for each file of the channel folder its present
-/// state and the last 20 before it. The copies of "channel3.xml" lie in the folder "channel3.xml",
-/// each named by the moment in which it was made (UTC), so that a person finds them without a
-/// program. They are copies and not links, since another program may write into a file in place.
+/// state and the last 20 before it, and the last 20 that uploads replaced at targets. The copies of
+/// "channel3.xml" lie in the folder "channel3.xml", each named by the moment in which it was made
+/// (UTC), so that a person finds them without a program. They are copies and not links, since
+/// another program may write into a file in place.
 ///
 /// May be used from several threads.
 class BackupStore final
@@ -34,6 +36,7 @@ class BackupStore final
 
 public:
     static constexpr int MaximumEarlierStates = 20;
+    static constexpr int MaximumTargetStates = 20;
 
     enum class Result {
         Unchanged, ///< the newest copy is the file's present state, or there is no file
@@ -61,6 +64,11 @@ public:
     /// The same for bytes that are in no file of the channel folder: what could not be saved.
     Result keepBytes(const QString &fileName, const QByteArray &bytes);
 
+    /// Makes a copy of what an upload replaces or removes at a target, unless there is one of these
+    /// bytes. @p modified is the time of the file there. Such copies push out only each other.
+    Result keepFromTarget(const QString &fileName, const QByteArray &bytes,
+                          const QDateTime &modified);
+
     /// Brings to the disk what was copied.
     void sync() const;
 
@@ -71,8 +79,6 @@ private:
         QString copy;
     };
 
-    QString folderOf(const QString &fileName) const;
-    QStringList copiesOf(const QString &fileName) const;
     struct Origin
     {
         QDateTime modified;
@@ -80,9 +86,13 @@ private:
     };
 
     Result keepState(const QString &fileName, const QByteArray &bytes, const Origin &origin);
-    QString pathOfNext(const QString &fileName, const QStringList &copies) const;
+    QString folderOf(const QString &fileName) const;
+    QStringList copiesOf(const QString &fileName, QLatin1String suffix) const;
+    QStringList ownCopiesOf(const QString &fileName) const;
+    QString pathOfNext(const QString &fileName, const QStringList &copies,
+                       QLatin1String suffix) const;
     bool write(const QString &path, const QByteArray &bytes, const Origin &origin);
-    void removeOldest(const QString &fileName);
+    void removeBehind(int count, const QString &fileName, const QStringList &copies) const;
     Result fail(const QString &reason);
 
     const QString m_folder;

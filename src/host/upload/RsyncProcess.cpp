@@ -14,6 +14,10 @@ constexpr int killAfterMs = 1500;
 constexpr int mostOutputBytes = 1024 * 1024;
 constexpr int mostErrorBytes = 16 * 1024;
 constexpr int mostDetails = 20;
+// Codes with which rsync ends.
+constexpr int someFilesFailed = 23;
+constexpr int someFilesVanished = 24;
+constexpr int programMissing = 127;
 
 class ProcessWithoutTerminal final : public QProcess
 {
@@ -76,16 +80,19 @@ constexpr KnownCode knownCodes[] = {
     {10, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The connection to the target is lost.")},
     {11, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target cannot be written to.")},
     {12, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The connection to the target is lost.")},
-    {23, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "Some files could not be transferred.")},
+    {someFilesFailed,
+     QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "Some files could not be transferred.")},
     {30, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target does not answer any more.")},
     {35, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target does not answer.")},
-    {127, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "A program is missing at the target.")},
     {255, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target cannot be reached by ssh.")},
 };
 
 QString explanation(int exitCode, const QByteArray &errors)
 {
     const char *message = nullptr;
+    // The words are those of a shell there, and about other files.
+    if (exitCode == programMissing)
+        message = QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "A program is missing at the target.");
     for (const KnownWords &known : knownWords) {
         if (!message && errors.contains(known.words))
             message = known.message;
@@ -178,7 +185,13 @@ void RsyncProcess::onFinished(int exitCode, QProcess::ExitStatus status)
     else if (status == QProcess::CrashExit)
         end(RsyncResult::Outcome::Failed, tr("rsync was killed."));
     else
-        end(RsyncResult::Outcome::Failed, explanation(exitCode, m_errors));
+        fail(exitCode);
+}
+
+void RsyncProcess::fail(int exitCode)
+{
+    m_result.isPartial = exitCode == someFilesFailed || exitCode == someFilesVanished;
+    end(RsyncResult::Outcome::Failed, explanation(exitCode, m_errors));
 }
 
 void RsyncProcess::onErrorOccurred(QProcess::ProcessError error)

@@ -13,9 +13,10 @@ struct RsyncResult
     enum class Outcome { Done, Failed, Stopped };
 
     Outcome outcome = Outcome::Failed;
-    QString message;     ///< a sentence for the user; empty for Done
-    QStringList details; ///< what rsync itself said
-    QByteArray output;   ///< of a listing
+    QString message;        ///< a sentence for the user; empty for Done
+    QStringList details;    ///< what rsync itself said
+    QByteArray output;      ///< of a listing
+    bool isPartial = false; ///< Failed, but only with some of the files
 };
 
 /// One run of the program rsync. It has no terminal, so that neither it nor ssh can wait for an
@@ -62,6 +63,7 @@ private Q_SLOTS:
 
 private:
     void signalAll(int signalNumber) const;
+    void fail(int exitCode);
     void end(RsyncResult::Outcome outcome, const QString &message);
 
     QProcess *m_process = nullptr;

@@ -1,7 +1,10 @@
 #include "upload/UploadDialog.h"
 
 #include "ZvEditorConfig.h"
+#include "check/CheckText.h"
 #include "upload/UploadButton.h"
+#include "upload/UploadCheck.h"
+#include "upload/UploadFindingsDialog.h"
 #include "upload/UploadNames.h"
 #include "upload/UploadRun.h"
 #include "upload/UploadTargetList.h"
@@ -40,6 +43,14 @@ QIcon iconOf(UploadJob::State state, const QStyle &style)
     return {};
 }
 
+QStringList linesOf(const CheckReport &report)
+{
+    QStringList lines;
+    for (const CheckFinding &finding : report.findings)
+        lines.append(CheckText::line(finding));
+    return lines;
+}
+
 QProgressBar *createProgressBar(const QString &address)
 {
     auto *const bar = new QProgressBar;
@@ -52,6 +63,7 @@ QProgressBar *createProgressBar(const QString &address)
 UploadDialog::UploadDialog(const QString &logFolder, QWidget *parent)
     : QDialog(parent)
     , m_logFolder(logFolder)
+    , m_check(new UploadCheck(this))
     , m_list(new UploadTargetList({tr("Progress"), tr("Result")}, this))
     , m_summary(new QLabel(this))
 {
@@ -61,6 +73,8 @@ UploadDialog::UploadDialog(const QString &logFolder, QWidget *parent)
         tr("The saved channels and the stages they use go to every &target that is checked."),
         this);
     label->setBuddy(m_list);
+    connect(m_check, SIGNAL(progressed(int,int)), this, SLOT(onCheckProgressed(int,int)));
+    connect(m_check, SIGNAL(finished()), this, SLOT(onChecked()));
     createRunButtons();
     auto *const bottom = new QHBoxLayout;
     bottom->addWidget(m_log);
@@ -91,11 +105,14 @@ UploadDialog::~UploadDialog()
 
 bool UploadDialog::isUploading() const
 {
-    return m_run && !m_run->isOver();
+    return m_check->isRunning() || m_question || (m_run && !m_run->isOver());
 }
 
 void UploadDialog::cancelUpload()
 {
+    m_check->cancel();
+    if (m_question)
+        m_question->reject();
     if (m_run)
         m_run->cancel();
 }
@@ -108,18 +125,54 @@ void UploadDialog::reloadTargets()
 
 void UploadDialog::upload()
 {
-    start(m_list->selectedTargets());
+    m_findings.clear();
+    begin(m_list->selectedTargets());
 }
 
 void UploadDialog::retry()
 {
-    start(targetsToRetry());
+    begin(targetsToRetry());
 }
 
 void UploadDialog::onTargetsChanged()
 {
     UploadTargets::store(m_list->targets());
     updateButtons();
+}
+
+void UploadDialog::onCheckProgressed(int done, int total)
+{
+    m_summary->setText(tr("Checking the data: %1 of %2 files...").arg(done).arg(total));
+}
+
+void UploadDialog::onChecked()
+{
+    const CheckReport &report = m_check->report();
+    if (!report.isComplete) {
+        giveUp(report.problem.isEmpty() ? tr("Cancelled before anything was sent.")
+                                        : report.problem);
+        return;
+    }
+    // What was accepted before is not asked about again at a retry.
+    const bool isAccepted = linesOf(report) == m_findings;
+    m_findings = linesOf(report);
+    if (report.findings.isEmpty() || isAccepted)
+        start();
+    else
+        ask(report);
+}
+
+void UploadDialog::onGoingOn()
+{
+    m_question = nullptr;
+    start();
+}
+
+void UploadDialog::onStopped()
+{
+    m_question = nullptr;
+    m_findings.clear();
+    giveUp(tr("Nothing was uploaded."));
 }
 
 void UploadDialog::onRunChanged()
@@ -185,10 +238,38 @@ QList<UploadTarget> UploadDialog::targetsToRetry() const
     return targets;
 }
 
-void UploadDialog::start(const QList<UploadTarget> &targets)
+void UploadDialog::begin(const QList<UploadTarget> &targets)
 {
     if (targets.isEmpty() || isUploading())
         return;
+    m_wanted = targets;
+    m_summary->setText(tr("Checking the data..."));
+    m_summary->setToolTip(QString());
+    m_check->start();
+    updateButtons();
+}
+
+void UploadDialog::ask(const CheckReport &report)
+{
+    // An upload goes on behind a closed window, but nobody can be asked there.
+    show();
+    raise();
+    m_question = new UploadFindingsDialog(report, this);
+    m_question->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_question, SIGNAL(accepted()), this, SLOT(onGoingOn()));
+    connect(m_question, SIGNAL(rejected()), this, SLOT(onStopped()));
+    m_question->open();
+}
+
+void UploadDialog::giveUp(const QString &reason)
+{
+    m_wanted.clear();
+    m_summary->setText(reason);
+    updateButtons();
+}
+
+void UploadDialog::start()
+{
     delete m_run;
     m_run = new UploadRun(ZvEditorConfig::dataDir(), m_logFolder, this);
     connect(m_run, SIGNAL(changed()), this, SLOT(onRunChanged()));
@@ -196,8 +277,7 @@ void UploadDialog::start(const QList<UploadTarget> &targets)
     for (int index = 0; index < m_list->tree()->topLevelItemCount(); ++index)
         clearResult(m_list->tree()->topLevelItem(index));
     m_summary->setText(tr("Uploading..."));
-    m_summary->setToolTip(QString());
-    m_run->start(targets);
+    m_run->start(m_wanted, m_findings);
     onRunChanged();
 }
 

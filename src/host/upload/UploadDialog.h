@@ -4,6 +4,8 @@
 
 #include <QDialog>
 #include <QList>
+#include <QPointer>
+#include <QStringList>
 
 class QLabel;
 class QPushButton;
@@ -11,11 +13,15 @@ class QTreeWidgetItem;
 
 namespace Zavo {
 
+struct CheckReport;
+class UploadCheck;
+class UploadFindingsDialog;
 class UploadRun;
 class UploadTargetList;
 
-/// The upload manager: the user's list of targets, and the upload to those that are selected. An
-/// upload goes on while the dialog is closed, and ends with the dialog when that dies.
+/// The upload manager: the user's list of targets, and the upload to those that are selected. The
+/// data are checked before; with findings the user is asked whether to go on. An upload goes on
+/// while the dialog is closed, and ends with the dialog when that dies.
 class UploadDialog final : public QDialog
 {
     Q_OBJECT
@@ -25,6 +31,7 @@ public:
     explicit UploadDialog(const QString &logFolder, QWidget *parent = nullptr);
     ~UploadDialog() override;
 
+    /// True from the check on, and while the user is asked about its findings.
     bool isUploading() const;
 
     /// Shows the list of targets as it is stored; not to be called during an upload.
@@ -42,6 +49,10 @@ private Q_SLOTS:
     void upload();
     void retry();
     void onTargetsChanged();
+    void onCheckProgressed(int done, int total);
+    void onChecked();
+    void onGoingOn();
+    void onStopped();
     void onRunChanged();
     void onRunFinished();
     void updateButtons();
@@ -49,12 +60,19 @@ private Q_SLOTS:
 private:
     void createRunButtons();
     QList<UploadTarget> targetsToRetry() const;
-    void start(const QList<UploadTarget> &targets);
+    void begin(const QList<UploadTarget> &targets);
+    void ask(const CheckReport &report);
+    void start();
+    void giveUp(const QString &reason);
     void showJob(int index);
     void clearResult(QTreeWidgetItem *item);
 
     const QString m_logFolder;
     UploadRun *m_run = nullptr; // the last one, null before the first
+    UploadCheck *m_check = nullptr;
+    QPointer<UploadFindingsDialog> m_question; // null while nothing is asked
+    QList<UploadTarget> m_wanted;              // of the upload that is being checked
+    QStringList m_findings;                    // that the user accepted
     UploadTargetList *m_list = nullptr;
     QLabel *m_summary = nullptr;
     QPushButton *m_upload = nullptr;

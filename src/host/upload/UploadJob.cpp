@@ -1,12 +1,13 @@
 #include "upload/UploadJob.h"
 
 #include "upload/FolderLookup.h"
+#include "upload/TargetKeeper.h"
+#include "upload/UploadArguments.h"
 #include "upload/UploadNames.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QLocale>
-#include <QRegularExpression>
 
 namespace Zavo {
 
@@ -14,32 +15,14 @@ namespace {
 constexpr int percentOfAssembling = 95;
 constexpr int percentOfAll = 100;
 constexpr int longestPlacingMs = 20000; // at the end of the program
-
-QString everythingIn(const char *folder)
-{
-    return QStringLiteral("--include=/%1/***").arg(QLatin1String(folder));
-}
-
-/// Names of what a listing of rsync has in the folder itself, as far as their kind, the first
-/// letter of a line, is among @p kinds.
-QStringList namesInListing(const QByteArray &listing, const char *kinds)
-{
-    const QRegularExpression line(
-        QStringLiteral("^[%1][^\\s]{9,}\\s+[\\d,.]+\\s+[\\d/-]+\\s+[\\d:.]+\\s(.+)$")
-            .arg(QLatin1String(kinds)),
-        QRegularExpression::MultilineOption);
-    QStringList names;
-    auto matches = line.globalMatch(QString::fromUtf8(listing));
-    while (matches.hasNext())
-        names.append(matches.next().captured(1));
-    return names;
-}
 } // namespace
 
-UploadJob::UploadJob(const UploadTarget &target, QObject *parent)
+UploadJob::UploadJob(const UploadTarget &target, const std::shared_ptr<BackupStore> &store,
+                     QObject *parent)
     : QObject(parent)
     , m_target(target)
     , m_message(tr("Waiting"))
+    , m_store(store)
 {
     connect(&m_rsync, SIGNAL(progressed(int)), this, SLOT(onProgressed(int)));
     connect(&m_rsync, SIGNAL(ended()), this, SLOT(onEnded()));
@@ -85,6 +68,8 @@ void UploadJob::cancel()
         end(State::Cancelled, tr("Cancelled."));
     else if (m_state == State::Running && m_step == Step::Find)
         end(State::Cancelled, tr("Cancelled. The target keeps what it had."));
+    else if (m_state == State::Running && m_step == Step::Keep)
+        m_keeper->cancel();
     else if (m_state == State::Running && !isPlacing())
         m_rsync.stop();
 }
@@ -106,7 +91,12 @@ void UploadJob::onEnded()
         onStepDone();
         return;
     }
-    m_details = result.details;
+    m_details += result.details;
+    if (m_step == Step::Fetch && result.isPartial) {
+        m_keepingFailed = true;
+        onStepDone();
+        return;
+    }
     const bool stopped = result.outcome == RsyncResult::Outcome::Stopped;
     if (isPlacing()) {
         end(State::Failed,
@@ -158,6 +148,9 @@ QString UploadJob::stepMessage() const
         return tr("Connecting");
     case Step::Assemble:
         return tr("Transferring");
+    case Step::Fetch:
+    case Step::Keep:
+        return tr("Keeping what is replaced");
     case Step::PlaceStages:
     case Step::PlaceAll:
         return tr("Putting in place");
@@ -169,102 +162,34 @@ QString UploadJob::stepMessage() const
 
 QStringList UploadJob::arguments() const
 {
+    const UploadArguments arguments(m_target, m_set);
     switch (m_step) {
     case Step::Find:
     case Step::Look:
-        return lookArguments();
+        return arguments.look();
     case Step::Assemble:
-        return assembleArguments();
+        return arguments.assemble();
+    case Step::Fetch:
+    case Step::Keep:
+        return arguments.fetchReplaced(m_keeper->folder());
     case Step::PlaceStages:
+        return arguments.placeStages(m_keptFolder);
     case Step::PlaceAll:
-        return placeArguments();
+        return arguments.placeAll(m_keptFolder);
     case Step::CleanUp:
         break;
     }
-    return cleanUpArguments();
-}
-
-// Contents are compared, not times: a file can be saved twice within a second.
-QStringList UploadJob::assembleArguments() const
-{
-    return QStringList{
-               QStringLiteral("--recursive"),
-               QStringLiteral("--checksum"),
-               QStringLiteral("--delete"),
-               QStringLiteral("--chmod=D755,F644"),
-               QStringLiteral("--outbuf=N"),
-               QStringLiteral("--info=progress2"),
-               QStringLiteral("--no-inc-recursive"),
-               QStringLiteral("--no-motd"),
-               QStringLiteral("--protect-args"),
-               QStringLiteral("--link-dest=.."),
-               QStringLiteral("--exclude=/%1").arg(QLatin1String(UploadNames::emptyFolder))} +
-           m_target.options() +
-           QStringList{QStringLiteral("--"), setFolder(), m_target.destination(stagingFolder())};
-}
-
-QStringList UploadJob::lookArguments() const
-{
-    QStringList options = m_target.options();
-    options.removeAll(QStringLiteral("--fsync"));
-    return QStringList{QStringLiteral("--list-only"), QStringLiteral("--no-motd"),
-                       QStringLiteral("--protect-args")} +
-           options + QStringList{QStringLiteral("--"), m_target.destination()};
-}
-
-QStringList UploadJob::placeArguments() const
-{
-    QStringList words{QStringLiteral("--recursive"),       QStringLiteral("--checksum"),
-                      QStringLiteral("--chmod=D755,F644"), QStringLiteral("--no-motd"),
-                      QStringLiteral("--protect-args"),    everythingIn(UploadNames::stageFolder)};
-    if (m_keptFolder.isEmpty())
-        words.append(QStringLiteral("--link-dest=%1").arg(stagingFolder()));
-    else // A link would replace what is to be kept; what is new there is copied from beside.
-        words += QStringList{QStringLiteral("--backup"), QStringLiteral("--delay-updates"),
-                             QStringLiteral("--backup-dir=%1").arg(m_keptFolder),
-                             QStringLiteral("--copy-dest=%1").arg(stagingFolder())};
-    if (m_step == Step::PlaceAll)
-        words +=
-            QStringList{QStringLiteral("--delete-delay"), everythingIn(UploadNames::channelFolder),
-                        QStringLiteral("--include=/%1").arg(QLatin1String(UploadNames::markFile))};
-    words.append(QStringLiteral("--exclude=*"));
-    return words + m_target.options() +
-           QStringList{QStringLiteral("--"), setFolder(), m_target.destination()};
-}
-
-// An empty folder is sent over the hidden one, since rsync has no other way to remove one.
-QStringList UploadJob::cleanUpArguments() const
-{
-    const QString empty = setFolder() + QLatin1String(UploadNames::emptyFolder) + QLatin1Char('/');
-    QStringList options = m_target.options();
-    options.removeAll(QStringLiteral("--fsync"));
-    return QStringList{QStringLiteral("--recursive"),
-                       QStringLiteral("--delete"),
-                       QStringLiteral("--no-motd"),
-                       QStringLiteral("--protect-args"),
-                       everythingIn(stagingFolder().toLatin1().constData()),
-                       QStringLiteral("--exclude=*")} +
-           options + QStringList{QStringLiteral("--"), empty, m_target.destination()};
-}
-
-QString UploadJob::stagingFolder() const
-{
-    return QLatin1String(UploadNames::stagingPrefix) + m_set.sender;
-}
-
-QString UploadJob::setFolder() const
-{
-    return m_set.folder->path() + QLatin1Char('/');
+    return arguments.cleanUp();
 }
 
 bool UploadJob::isPlacing() const
 {
-    return m_state == State::Running && m_step > Step::Assemble;
+    return m_state == State::Running && m_step >= Step::PlaceStages;
 }
 
 QString UploadJob::linkAtTarget() const
 {
-    const QStringList links = namesInListing(m_rsync.result().output, "l");
+    const QStringList links = UploadArguments::namesInListing(m_rsync.result().output, "l");
     for (const char *folder : {UploadNames::channelFolder, UploadNames::stageFolder}) {
         if (links.contains(QLatin1String(folder)))
             return QLatin1String(folder);
@@ -282,15 +207,56 @@ void UploadJob::onLooked()
                 .arg(link));
         return;
     }
-    const QStringList names = namesInListing(m_rsync.result().output, "d-");
+    const QStringList names = UploadArguments::namesInListing(m_rsync.result().output, "d-");
     const bool isOurs = names.contains(QLatin1String(UploadNames::markFile));
-    const bool isFilled = names.contains(QLatin1String(UploadNames::channelFolder)) ||
-                          names.contains(QLatin1String(UploadNames::stageFolder));
+    m_hasChannels = names.contains(QLatin1String(UploadNames::channelFolder));
+    const bool isFilled = m_hasChannels || names.contains(QLatin1String(UploadNames::stageFolder));
     if (!isOurs && isFilled)
         m_keptFolder =
             QLatin1String(UploadNames::keptPrefix) +
             QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyyMMdd-hhmmss"));
     startStep(Step::Assemble);
+}
+
+void UploadJob::onAssembled()
+{
+    if (!m_hasChannels) {
+        startStep(Step::PlaceStages);
+        return;
+    }
+    m_keeper = std::make_unique<TargetKeeper>(m_set.folder->path(), m_store);
+    if (m_keeper->folder().isEmpty()) {
+        end(State::Failed, tr("There is no room to keep what is replaced. The target keeps what it "
+                              "had."));
+        return;
+    }
+    connect(m_keeper.get(), SIGNAL(finished()), this, SLOT(onReplacedKept()), Qt::QueuedConnection);
+    startStep(Step::Fetch);
+}
+
+void UploadJob::onFetched()
+{
+    m_step = Step::Keep;
+    m_keeper->start();
+}
+
+void UploadJob::onReplacedKept()
+{
+    if (m_state != State::Running || m_step != Step::Keep)
+        return;
+    if (m_keeper->isCancelled()) {
+        end(State::Cancelled, tr("Cancelled. The target keeps what it had."));
+        return;
+    }
+    m_keepingFailed = m_keepingFailed || !m_keeper->problem().isEmpty();
+    if (m_keeper->count() > 0)
+        m_details.append(tr("%n channel file(s) that were replaced or removed there are among the "
+                            "safety copies.",
+                            nullptr, m_keeper->count()));
+    if (!m_keeper->problem().isEmpty())
+        m_details.append(m_keeper->problem());
+    m_keeper.reset();
+    startStep(Step::PlaceStages);
 }
 
 void UploadJob::onStepDone()
@@ -303,7 +269,11 @@ void UploadJob::onStepDone()
         onLooked();
         return;
     case Step::Assemble:
-        startStep(Step::PlaceStages);
+        onAssembled();
+        return;
+    case Step::Fetch:
+    case Step::Keep:
+        onFetched();
         return;
     case Step::PlaceStages:
         startStep(Step::PlaceAll);
@@ -315,16 +285,23 @@ void UploadJob::onStepDone()
         break;
     }
     m_percent = percentOfAll;
-    end(State::Done,
-        m_keptFolder.isEmpty()
-            ? tr("Complete.")
-            : tr("Complete. What was there before is in the folder \"%1\".").arg(m_keptFolder));
+    end(State::Done, doneMessage());
+}
+
+QString UploadJob::doneMessage() const
+{
+    if (!m_keptFolder.isEmpty())
+        return tr("Complete. What was there before is in the folder \"%1\".").arg(m_keptFolder);
+    return m_keepingFailed
+               ? tr("Complete. No safety copy could be made of all that was replaced there.")
+               : tr("Complete.");
 }
 
 void UploadJob::end(State state, const QString &message)
 {
     m_state = state;
     m_message = message;
+    m_keeper.reset();
     m_set = {};
     Q_EMIT changed();
 }

@@ -33,6 +33,9 @@ constexpr char cancelButton[] = "UploadCancelButton";
 constexpr char closeButton[] = "UploadCloseButton";
 constexpr char logButton[] = "UploadLogButton";
 constexpr char summaryLabel[] = "UploadSummary";
+constexpr char findingsDialog[] = "UploadFindingsDialog";
+constexpr char goOnButton[] = "UploadGoOnButton";
+constexpr char stopButton[] = "UploadStopButton";
 constexpr char addressField[] = "UploadAddressField";
 constexpr char problemLabel[] = "UploadAddressProblem";
 

@@ -1,26 +1,26 @@
 #include "upload/UploadRun.h"
 
+#include "safety/BackupStore.h"
+#include "upload/FolderRemoval.h"
 #include "upload/UploadCollection.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QLocale>
-#include <QRunnable>
-#include <QThreadPool>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace Zavo {
 
 namespace {
-/// Lets a folder go in another thread, since a large one takes its time.
+constexpr int mostFindings = 200; // that are of use in a log
+
 void letGo(UploadSet *set)
 {
-    std::shared_ptr<QTemporaryDir> folder = std::move(set->folder);
+    removeAside(std::move(set->folder));
     *set = {};
-    if (folder)
-        QThreadPool::globalInstance()->start(
-            QRunnable::create([folder = std::move(folder)]() mutable { folder.reset(); }));
 }
 } // namespace
 
@@ -52,7 +52,7 @@ int UploadRun::count(UploadJob::State state) const
                       [state](const UploadJob *job) { return job->state() == state; }));
 }
 
-void UploadRun::start(const QList<UploadTarget> &targets)
+void UploadRun::start(const QList<UploadTarget> &targets, const QStringList &findings)
 {
     m_log.begin();
     const QLocale plain(QLocale::C);
@@ -60,8 +60,12 @@ void UploadRun::start(const QList<UploadTarget> &targets)
                     .arg(plain.toString(QDateTime::currentDateTime(),
                                         QStringLiteral("yyyy-MM-dd hh:mm:ss")),
                          QDir::toNativeSeparators(m_dataDir)));
+    if (!findings.isEmpty())
+        m_log.write(tr("The check found %n thing(s):", nullptr, findings.size()));
+    m_log.writeDetails(findings.mid(0, mostFindings));
+    const auto store = std::make_shared<BackupStore>(m_dataDir);
     for (const UploadTarget &target : targets) {
-        auto *const job = new UploadJob(target, this);
+        auto *const job = new UploadJob(target, store, this);
         m_jobs.append(job);
         connect(job, SIGNAL(changed()), this, SLOT(onJobChanged()));
     }

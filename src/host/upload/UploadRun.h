@@ -39,8 +39,9 @@ public:
     QString logFile() const { return m_log.filePath(); }
     bool isLogWhole() const { return m_log.isWhole(); }
 
-    /// To be called once, with at least one target.
-    void start(const QList<UploadTarget> &targets);
+    /// To be called once, with at least one target. @p findings are lines about the data for the
+    /// log.
+    void start(const QList<UploadTarget> &targets, const QStringList &findings = {});
 
 public Q_SLOTS:
     /// Cancels what can be cancelled; finished() follows.
