@@ -278,6 +278,10 @@
         <source>&amp;Restore...</source>
         <translation>&amp;Wiederherstellen...</translation>
     </message>
+    <message>
+        <source>%1  at a target</source>
+        <translation>%1  an einem Ziel</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::BackupStore</name>
@@ -1658,6 +1662,13 @@ Möchten Sie den Protokollordner öffnen?</translation>
     </message>
 </context>
 <context>
+    <name>Zavo::TargetKeeper</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read.</source>
+        <translation>„%1“ kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::TimeTablePage</name>
     <message>
         <source>Stopped</source>
@@ -1828,6 +1839,41 @@ Möchten Sie diesen löschen und einfügen?</translation>
         <source>Uploading...</source>
         <translation>Wird hochgeladen...</translation>
     </message>
+    <message>
+        <source>Checking the data: %1 of %2 files...</source>
+        <translation>Die Daten werden geprüft: %1 von %2 Dateien...</translation>
+    </message>
+    <message>
+        <source>Cancelled before anything was sent.</source>
+        <translation>Abgebrochen, bevor etwas gesendet wurde.</translation>
+    </message>
+    <message>
+        <source>Nothing was uploaded.</source>
+        <translation>Es wurde nichts hochgeladen.</translation>
+    </message>
+    <message>
+        <source>Checking the data...</source>
+        <translation>Die Daten werden geprüft...</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::UploadFindingsDialog</name>
+    <message>
+        <source>Check Before Upload</source>
+        <translation>Prüfung vor dem Hochladen</translation>
+    </message>
+    <message>
+        <source>%1 Upload all the same?</source>
+        <translation>%1 Trotzdem hochladen?</translation>
+    </message>
+    <message>
+        <source>&amp;Upload All the Same</source>
+        <translation>&amp;Trotzdem hochladen</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Upload</source>
+        <translation>&amp;Nicht hochladen</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::UploadJob</name>
@@ -1883,6 +1929,25 @@ Möchten Sie diesen löschen und einfügen?</translation>
         <source>Complete. What was there before is in the folder &quot;%1&quot;.</source>
         <translation>Vollständig. Was vorher dort war, liegt im Ordner „%1“.</translation>
     </message>
+    <message>
+        <source>Keeping what is replaced</source>
+        <translation>Was ersetzt wird, wird aufgehoben</translation>
+    </message>
+    <message>
+        <source>There is no room to keep what is replaced. The target keeps what it had.</source>
+        <translation>Um aufzuheben, was ersetzt wird, ist kein Platz. Das Ziel behält, was es hatte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel file(s) that were replaced or removed there are among the safety copies.</source>
+        <translation>
+            <numerusform>%n Kanaldatei, die dort ersetzt oder entfernt wurde, ist unter den Sicherungskopien.</numerusform>
+            <numerusform>%n Kanaldateien, die dort ersetzt oder entfernt wurden, sind unter den Sicherungskopien.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Complete. No safety copy could be made of all that was replaced there.</source>
+        <translation>Vollständig. Nicht von allem, was dort ersetzt wurde, konnte eine Sicherungskopie angelegt werden.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::UploadRun</name>
@@ -1908,6 +1973,13 @@ Möchten Sie diesen löschen und einfügen?</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The check found %n thing(s):</source>
+        <translation>
+            <numerusform>Die Prüfung fand %n Punkt:</numerusform>
+            <numerusform>Die Prüfung fand %n Punkte:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

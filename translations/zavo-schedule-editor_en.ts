@@ -113,12 +113,29 @@
     </message>
 </context>
 <context>
+    <name>Zavo::UploadJob</name>
+    <message numerus="yes">
+        <source>%n channel file(s) that were replaced or removed there are among the safety copies.</source>
+        <translation>
+            <numerusform>%n channel file that was replaced or removed there is among the safety copies.</numerusform>
+            <numerusform>%n channel files that were replaced or removed there are among the safety copies.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Zavo::UploadRun</name>
     <message numerus="yes">
         <source>Upload of %1 to %n target(s), from &quot;%2&quot;</source>
         <translation>
             <numerusform>Upload of %1 to %n target, from &quot;%2&quot;</numerusform>
             <numerusform>Upload of %1 to %n targets, from &quot;%2&quot;</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The check found %n thing(s):</source>
+        <translation>
+            <numerusform>The check found %n thing:</numerusform>
+            <numerusform>The check found %n things:</numerusform>
         </translation>
     </message>
 </context>

@@ -278,6 +278,10 @@
         <source>&amp;Restore...</source>
         <translation>&amp;Restaurer...</translation>
     </message>
+    <message>
+        <source>%1  at a target</source>
+        <translation>%1  à une destination</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::BackupStore</name>
@@ -1658,6 +1662,13 @@ Voulez-vous ouvrir le dossier du journal&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>Zavo::TargetKeeper</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu.</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::TimeTablePage</name>
     <message>
         <source>Stopped</source>
@@ -1828,6 +1839,41 @@ Voulez-vous la supprimer et coller&#xa0;?</translation>
         <source>Uploading...</source>
         <translation>Envoi en cours...</translation>
     </message>
+    <message>
+        <source>Checking the data: %1 of %2 files...</source>
+        <translation>Vérification des données&#xa0;: %1 fichiers sur %2...</translation>
+    </message>
+    <message>
+        <source>Cancelled before anything was sent.</source>
+        <translation>Annulé avant tout envoi.</translation>
+    </message>
+    <message>
+        <source>Nothing was uploaded.</source>
+        <translation>Rien n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>Checking the data...</source>
+        <translation>Vérification des données...</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::UploadFindingsDialog</name>
+    <message>
+        <source>Check Before Upload</source>
+        <translation>Vérification avant l’envoi</translation>
+    </message>
+    <message>
+        <source>%1 Upload all the same?</source>
+        <translation>%1 Envoyer quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Upload All the Same</source>
+        <translation>&amp;Envoyer quand même</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Upload</source>
+        <translation>&amp;Ne pas envoyer</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::UploadJob</name>
@@ -1883,6 +1929,25 @@ Voulez-vous la supprimer et coller&#xa0;?</translation>
         <source>Complete. What was there before is in the folder &quot;%1&quot;.</source>
         <translation>Complet. Ce qui s’y trouvait avant est dans le dossier «&#xa0;%1&#xa0;».</translation>
     </message>
+    <message>
+        <source>Keeping what is replaced</source>
+        <translation>Conservation de ce qui est remplacé</translation>
+    </message>
+    <message>
+        <source>There is no room to keep what is replaced. The target keeps what it had.</source>
+        <translation>Il n’y a pas de place pour conserver ce qui est remplacé. La destination garde son état précédent.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel file(s) that were replaced or removed there are among the safety copies.</source>
+        <translation>
+            <numerusform>%n fichier de canal qui y a été remplacé ou supprimé est parmi les copies de sécurité.</numerusform>
+            <numerusform>%n fichiers de canal qui y ont été remplacés ou supprimés sont parmi les copies de sécurité.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Complete. No safety copy could be made of all that was replaced there.</source>
+        <translation>Complet. Tout ce qui y a été remplacé n’a pas pu être mis parmi les copies de sécurité.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::UploadRun</name>
@@ -1908,6 +1973,13 @@ Voulez-vous la supprimer et coller&#xa0;?</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The check found %n thing(s):</source>
+        <translation>
+            <numerusform>La vérification a trouvé %n point&#xa0;:</numerusform>
+            <numerusform>La vérification a trouvé %n points&#xa0;:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

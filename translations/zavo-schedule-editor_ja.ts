@@ -278,6 +278,10 @@
         <source>&amp;Restore...</source>
         <translation>復元(&amp;R)...</translation>
     </message>
+    <message>
+        <source>%1  at a target</source>
+        <translation>%1  (アップロード先)</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::BackupStore</name>
@@ -1647,6 +1651,13 @@ Do you want to open the log folder?</source>
     </message>
 </context>
 <context>
+    <name>Zavo::TargetKeeper</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read.</source>
+        <translation>「%1」を読み込めません。</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::TimeTablePage</name>
     <message>
         <source>Stopped</source>
@@ -1816,6 +1827,41 @@ Do you want to delete the assigned time band and to paste?</source>
         <source>Uploading...</source>
         <translation>アップロードしています...</translation>
     </message>
+    <message>
+        <source>Checking the data: %1 of %2 files...</source>
+        <translation>データを確認しています: %1 / %2 ファイル...</translation>
+    </message>
+    <message>
+        <source>Cancelled before anything was sent.</source>
+        <translation>送信を始める前にキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>Nothing was uploaded.</source>
+        <translation>何もアップロードされていません。</translation>
+    </message>
+    <message>
+        <source>Checking the data...</source>
+        <translation>データを確認しています...</translation>
+    </message>
+</context>
+<context>
+    <name>Zavo::UploadFindingsDialog</name>
+    <message>
+        <source>Check Before Upload</source>
+        <translation>アップロード前の確認</translation>
+    </message>
+    <message>
+        <source>%1 Upload all the same?</source>
+        <translation>%1 それでもアップロードしますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Upload All the Same</source>
+        <translation>それでもアップロードする(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Upload</source>
+        <translation>アップロードしない(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::UploadJob</name>
@@ -1871,6 +1917,24 @@ Do you want to delete the assigned time band and to paste?</source>
         <source>Complete. What was there before is in the folder &quot;%1&quot;.</source>
         <translation>完了しました。以前の内容はフォルダー「%1」にあります。</translation>
     </message>
+    <message>
+        <source>Keeping what is replaced</source>
+        <translation>置き換えられるものを保存しています</translation>
+    </message>
+    <message>
+        <source>There is no room to keep what is replaced. The target keeps what it had.</source>
+        <translation>置き換えられるものを保存する空きがありません。アップロード先は元のままです。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n channel file(s) that were replaced or removed there are among the safety copies.</source>
+        <translation>
+            <numerusform>アップロード先で置き換えられた、または削除された %n 個のチャンネルファイルはバックアップコピーの中にあります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Complete. No safety copy could be made of all that was replaced there.</source>
+        <translation>完了しました。アップロード先で置き換えられたもののすべてのバックアップコピーは作成できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::UploadRun</name>
@@ -1895,6 +1959,12 @@ Do you want to delete the assigned time band and to paste?</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The check found %n thing(s):</source>
+        <translation>
+            <numerusform>確認で %n 件見つかりました:</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -44,8 +44,9 @@ private:
     static QString message(const std::unique_ptr<UploadRun> &run);
     QString target() const { return m_target->path(); }
     QMap<QString, QByteArray> expected() const;
-    /// Uploads a first set, then changes all that is in it, with one large stage.
-    void prepareSecondSet(const QString &address);
+    /// Brings a first set to the target as to a folder, then changes all that is in it, with one
+    /// large stage.
+    void prepareSecondSet();
 
     std::unique_ptr<TemporaryDataFolder> m_folder;
     std::unique_ptr<QTemporaryDir> m_target;
@@ -110,9 +111,9 @@ QMap<QString, QByteArray> tst_UploadBySsh::expected() const
     return files;
 }
 
-void tst_UploadBySsh::prepareSecondSet(const QString &address)
+void tst_UploadBySsh::prepareSecondSet()
 {
-    const auto first = upload(address);
+    const auto first = upload(target());
     QCOMPARE(message(first), QStringLiteral("Complete."));
     m_folder->write(QStringLiteral("stage/large.zstg"), ZavoTest::noise(3 * megabyte));
     m_folder->writeStage(QStringLiteral("a.xml"), QStringLiteral("changed"));
@@ -124,7 +125,7 @@ void tst_UploadBySsh::prepareSecondSet(const QString &address)
 void tst_UploadBySsh::bringsTheSet()
 {
     ZavoTest::writeFile(target() + QStringLiteral("/config.ini"), "the player's");
-    prepareSecondSet(m_server->address(target()));
+    prepareSecondSet();
     const QByteArray removed = filesBelow(target()).value(QStringLiteral("channel/channel1.xml"));
     QVERIFY(!removed.isEmpty());
     const auto run = upload(m_server->address(target()));
@@ -212,7 +213,7 @@ void tst_UploadBySsh::fullTargetKeepsWhatItHad()
     const ZavoTest::SmallDisk disk(target());
     m_server = std::make_unique<SshServer>();
     QVERIFY(m_server->isReady());
-    prepareSecondSet(m_server->address(target()));
+    prepareSecondSet();
     const auto before = filesBelow(target());
     const auto run = upload(m_server->address(target()));
     QCOMPARE(run->jobs().first()->state(), State::Failed);
@@ -225,7 +226,7 @@ void tst_UploadBySsh::fullTargetKeepsWhatItHad()
 
 void tst_UploadBySsh::vanishingTargetKeepsWhatItHad()
 {
-    prepareSecondSet(m_server->address(target()));
+    prepareSecondSet();
     const auto before = filesBelow(target());
     FaultyLine line(m_server->port(), megabyte, FaultyLine::Fault::Breaks);
     const QString address = m_server->address(target(), line.port());
@@ -244,7 +245,7 @@ void tst_UploadBySsh::vanishingTargetKeepsWhatItHad()
 
 void tst_UploadBySsh::cancelKeepsWhatWasThere()
 {
-    prepareSecondSet(m_server->address(target()));
+    prepareSecondSet();
     const auto before = filesBelow(target());
     FaultyLine line(m_server->port(), megabyte, FaultyLine::Fault::GoesSilent);
     const auto run = begin(m_server->address(target(), line.port()));

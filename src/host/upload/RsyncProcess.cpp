@@ -17,7 +17,6 @@ constexpr int mostDetails = 20;
 // Codes with which rsync ends.
 constexpr int someFilesFailed = 23;
 constexpr int someFilesVanished = 24;
-constexpr int programMissing = 127;
 
 class ProcessWithoutTerminal final : public QProcess
 {
@@ -47,6 +46,11 @@ struct KnownWords
 };
 // In the order in which they tell more than those behind them.
 constexpr KnownWords knownWords[] = {
+    // What shells say; the code depends on who notices first that the far side has ended.
+    {"rsync: command not found",
+     QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "A program is missing at the target.")},
+    {"rsync: not found",
+     QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "A program is missing at the target.")},
     {"No space left on device", QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target is full.")},
     {"Disk quota exceeded", QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target is full.")},
     {"File too large", QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target is full.")},
@@ -84,15 +88,13 @@ constexpr KnownCode knownCodes[] = {
      QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "Some files could not be transferred.")},
     {30, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target does not answer any more.")},
     {35, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target does not answer.")},
+    {127, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "A program is missing at the target.")},
     {255, QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "The target cannot be reached by ssh.")},
 };
 
 QString explanation(int exitCode, const QByteArray &errors)
 {
     const char *message = nullptr;
-    // The words are those of a shell there, and about other files.
-    if (exitCode == programMissing)
-        message = QT_TRANSLATE_NOOP("Zavo::RsyncProcess", "A program is missing at the target.");
     for (const KnownWords &known : knownWords) {
         if (!message && errors.contains(known.words))
             message = known.message;
