@@ -1,4 +1,5 @@
 #include "Catalogues.h"
+#include "LanguageChoice.h"
 
 #include <QFile>
 #include <QLocale>
@@ -24,6 +25,9 @@ private Q_SLOTS:
     void endsWithTheObject();
     void refusesWhatIsNoLanguage();
     void standsForTheSystem();
+    void namesDaysInTheLanguage_data();
+    void namesDaysInTheLanguage();
+    void callsLanguagesByTheirNames();
 
 private:
     static void release(const QString &folder, const QString &language, const QString &text);
@@ -148,6 +152,50 @@ void tst_Catalogues::standsForTheSystem()
     Catalogues catalogues({m_folder.path()});
     QVERIFY(catalogues.load(QString()));
     QCOMPARE(channelInForce(), QStringLiteral("Channel"));
+}
+
+void tst_Catalogues::namesDaysInTheLanguage_data()
+{
+    QTest::addColumn<QByteArray>("everything");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QByteArray>("files");
+    QTest::addColumn<QByteArray>("dates");
+    const QByteArray none;
+    QTest::newRow("another") << none << "ja" << none << QByteArray("ja_JP.UTF-8");
+    QTest::newRow("another than that of everything")
+        << QByteArray("de_AT.UTF-8") << "fr" << QByteArray("de_AT.UTF-8")
+        << QByteArray("fr_FR.UTF-8");
+    QTest::newRow("the same") << QByteArray("de_AT.UTF-8") << "de" << none << none;
+    QTest::newRow("none") << none << QString() << none << none;
+    QTest::newRow("no language") << none << "../nonsense" << none << none;
+}
+
+void tst_Catalogues::namesDaysInTheLanguage()
+{
+    QFETCH(QByteArray, everything);
+    QFETCH(QString, language);
+    const QByteArray before = qgetenv("LC_ALL");
+    for (const auto *variable : {"LC_ALL", "LC_CTYPE", "LC_TIME"})
+        qunsetenv(variable);
+    if (!everything.isEmpty())
+        qputenv("LC_ALL", everything);
+    Zavo::LanguageChoice::applyToDates(language);
+    const QByteArray files = qgetenv("LC_CTYPE");
+    const QByteArray dates = qgetenv("LC_TIME");
+    const QByteArray after = qgetenv("LC_ALL");
+    qputenv("LC_ALL", before);
+    QTEST(files, "files");
+    QTEST(dates, "dates");
+    QCOMPARE(after, dates.isEmpty() ? everything : QByteArray());
+}
+
+void tst_Catalogues::callsLanguagesByTheirNames()
+{
+    using Zavo::LanguageChoice::nameOf;
+    QCOMPARE(nameOf(QStringLiteral("de")), QStringLiteral("Deutsch"));
+    QCOMPARE(nameOf(QStringLiteral("fr")), QStringLiteral("Français"));
+    QCOMPARE(nameOf(QStringLiteral("ja")), QStringLiteral("日本語"));
+    QCOMPARE(nameOf(QStringLiteral("en")), QStringLiteral("English"));
 }
 
 QTEST_GUILESS_MAIN(tst_Catalogues)

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void speaksTheUsersLanguage_data();
     void speaksTheUsersLanguage();
     void speaksTheChosenLanguage();
+    void countsAsTheLanguageDoes_data();
+    void countsAsTheLanguageDoes();
     void refusesALineThatMakesNoSense_data();
     void refusesALineThatMakesNoSense();
     void writesAScreenshot_data();
@@ -157,6 +159,31 @@ void tst_Program::speaksTheChosenLanguage()
     const Run none = run({help}, environment);
     QCOMPARE(none.exitCode, 0);
     QVERIFY2(none.output.contains(QStringLiteral("Opens this")), qPrintable(none.output));
+}
+
+void tst_Program::countsAsTheLanguageDoes_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("printed");
+    QTest::newRow("English") << "en"
+                             << "1 finding in 1 channel file, 0 stages.";
+    QTest::newRow("German") << "de"
+                            << "1 Befund: 1 Kanaldatei, 0 Szenen.";
+    QTest::newRow("French") << "fr"
+                            << QStringLiteral("1 anomalie dans 1 fichier de canal, 0 scène.");
+    QTest::newRow("Japanese")
+        << "ja"
+        << "1 件の検出事項があります (チャンネルファイル 1 個、ステージ 0 個)。";
+}
+
+void tst_Program::countsAsTheLanguageDoes()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, printed);
+    m_folder->write(QStringLiteral("channel/channel0.xml"), "half");
+    const Run result = run({QStringLiteral("--check"), QStringLiteral("--data-dir"), data(),
+                            QStringLiteral("--language"), language});
+    QVERIFY2(result.output.endsWith(printed + QLatin1Char('\n')), qPrintable(result.output));
 }
 
 void tst_Program::refusesALineThatMakesNoSense_data()
