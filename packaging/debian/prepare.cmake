@@ -31,9 +31,13 @@ function(zavo_put source destination mode)
 endfunction()
 
 # Takes away what only builds need. The path to the libraries, too: they lie where the loader looks.
+# Where there are packages of what debuggers need, CPack takes that out itself.
 function(zavo_strip binary)
-  zavo_run(${CPACK_ZAVO_STRIP} --strip-unneeded --remove-section=.comment --remove-section=.note
-           ${binary})
+  set(options --remove-section=.comment --remove-section=.note)
+  if(NOT CPACK_DEBIAN_DEBUGINFO_PACKAGE)
+    list(APPEND options --strip-unneeded)
+  endif()
+  zavo_run(${CPACK_ZAVO_OBJCOPY} ${options} ${binary})
   file(RPATH_REMOVE FILE ${binary})
 endfunction()
 
