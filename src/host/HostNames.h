@@ -15,6 +15,7 @@ constexpr char aboutQtAction[] = "Action_About_Qt";
 constexpr char shortcutsAction[] = "Action_Keyboard_Shortcuts";
 constexpr char newScheduleAction[] = "Action_New_Schedule";
 constexpr char scheduleListDock[] = "ScheduleListDock";
+constexpr char guideAction[] = "Action_Users_Guide";
 constexpr char whatsThisAction[] = "Action_Whats_This";
 
 /// Keys of the user settings.

@@ -11,6 +11,7 @@
 #include "check/CheckDialog.h"
 #include "editor/ZvScheduleEditor.h"
 #include "exporter/ExportDialog.h"
+#include "guide/GuideDialog.h"
 #include "shortcuts/ShortcutDialog.h"
 #include "shortcuts/Shortcuts.h"
 #include "upload/UploadDialog.h"
@@ -142,6 +143,13 @@ void HostWindow::showChannelExporter(const QString &channelFilePath)
     m_exportDialog->showChannel(channelFilePath);
 }
 
+void HostWindow::showGuide()
+{
+    if (!m_guideDialog)
+        m_guideDialog = new GuideDialog(this);
+    m_guideDialog->read();
+}
+
 void HostWindow::closeEvent(QCloseEvent *event)
 {
     if (!m_editorClosed && !m_closing && !confirmEndOfUpload()) {
@@ -201,6 +209,12 @@ QMenu *HostWindow::createHelpMenu()
 {
     auto *const menu = new QMenu(tr("&Help"), this);
     menu->setObjectName(QLatin1String(HostNames::helpMenu));
+    QAction *const guide = menu->addAction(tr("User's &Guide"), this, SLOT(showGuide()));
+    guide->setObjectName(QLatin1String(HostNames::guideAction));
+    guide->setShortcut(Qt::Key_F1);
+    guide->setStatusTip(tr("Leads through the first hour and explains every message"));
+    guide->setWhatsThis(tr("Opens the guide in a window of its own, which can stay open beside the "
+                           "work."));
     QAction *const whatsThis = menu->addAction(tr("&What's This?"), this, SLOT(explain()));
     whatsThis->setObjectName(QLatin1String(HostNames::whatsThisAction));
     whatsThis->setShortcut(Qt::SHIFT + Qt::Key_F1);

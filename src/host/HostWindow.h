@@ -10,6 +10,7 @@ namespace Zavo {
 
 class CheckDialog;
 class ExportDialog;
+class GuideDialog;
 class ScenePurger;
 class Shortcuts;
 class UploadDialog;
@@ -62,6 +63,9 @@ public:
 public Q_SLOTS:
     void showVersionInformation();
 
+    /// Shows the user's guide, which stays open beside the editor.
+    void showGuide();
+
     /// The next click explains what it is on.
     void explain();
 
@@ -106,6 +110,7 @@ private:
     ScenePurger *m_scenePurger = nullptr;
     ZvScheduleEditor *m_editor = nullptr;
     UploadDialog *m_uploadDialog = nullptr; // null until it is first asked for
+    GuideDialog *m_guideDialog = nullptr;   // the same
     ExportDialog *m_exportDialog = nullptr; // the same
     CheckDialog *m_checkDialog = nullptr;   // the same
     int m_busyCount = 0;

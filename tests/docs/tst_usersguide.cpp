@@ -47,10 +47,12 @@ QStringList rowsOf(const QString &document)
     return linesOf(document).filter(QRegularExpression(QStringLiteral("^\\| ")));
 }
 
-/// A bar in a table has a backslash before it.
+/// A bar in a table is written as its number, and a backslash is left out of both sides.
 QString withoutEscapes(const QString &text)
 {
-    return QString(text).remove(QLatin1Char('\\'));
+    return QString(text)
+        .replace(QLatin1String("&#124;"), QLatin1String("|"))
+        .remove(QLatin1Char('\\'));
 }
 
 /// What of a text stands in the guide: without the names that come in, and in one line.
@@ -142,8 +144,7 @@ void tst_UsersGuide::messagesAreExplained()
 // A text that was changed leaves no explanation of the old one behind.
 void tst_UsersGuide::explainedMessagesExist()
 {
-    static const QRegularExpression sentence(
-        QStringLiteral("^\\| ((?:[^|\\\\]|\\\\.)*[.?)]) \\| "));
+    static const QRegularExpression sentence(QStringLiteral("^\\| ([^|]*[.?)]) \\| "));
     int count = 0;
     bool inTables = false;
     for (const QString &row : linesOf(QStringLiteral("docs/users-guide.md"))) {
