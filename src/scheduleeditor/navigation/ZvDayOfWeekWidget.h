@@ -29,6 +29,9 @@ public:
     /// Does what the release does that a menu has swallowed: selects the cell if it is held down.
     void releaseIfPressed();
 
+    /// Selects the cell and reports it as clicked.
+    void select();
+
 public Q_SLOTS:
     void setSelected(bool selected);
     void setScheduled(bool scheduled);
@@ -46,8 +49,6 @@ private Q_SLOTS:
     void delayedResize();
 
 private:
-    void select();
-
     int m_dayOfWeek = 0;
     QSize m_delayedSize;
 };

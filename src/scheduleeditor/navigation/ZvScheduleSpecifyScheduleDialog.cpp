@@ -114,7 +114,6 @@ ZvScheduleSpecifyScheduleDialog::ZvScheduleSpecifyScheduleDialog(Mode mode,
     : QDialog(parent, flags)
     , m_channel(channel)
     , m_descriptionLabel(new QLabel(this))
-    , m_buttonBox(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
     , m_typeGroupBox(newTypeGroupBox())
     , m_dayOfWeekGroupBox(newDayOfWeekGroupBox())
     , m_dateGroupBox(newDateGroupBox())
@@ -122,7 +121,6 @@ ZvScheduleSpecifyScheduleDialog::ZvScheduleSpecifyScheduleDialog(Mode mode,
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     setMinimumWidth(minimumWidthPx);
     m_descriptionLabel->setTextFormat(Qt::PlainText);
-    m_buttonBox->setCenterButtons(true);
 
     auto *layout = new QVBoxLayout(this);
     // Left to the layout, the dialog would grow with a group at once and shrink with none.
@@ -133,6 +131,9 @@ ZvScheduleSpecifyScheduleDialog::ZvScheduleSpecifyScheduleDialog(Mode mode,
     layout->addWidget(m_dayOfWeekGroupBox);
     layout->addWidget(m_dateGroupBox);
     layout->addSpacerItem(newGap(QSizePolicy::Minimum, QSizePolicy::Expanding));
+    // After the groups, so that the Tab key comes to it last.
+    m_buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    m_buttonBox->setCenterButtons(true);
     layout->addWidget(m_buttonBox);
 
     const QDate today = QDate::currentDate();

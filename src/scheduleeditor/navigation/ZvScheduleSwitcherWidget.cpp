@@ -3,6 +3,7 @@
 #include "domain/ChannelSchedules.h"
 #include "navigation/NavigationNames.h"
 #include "navigation/SchedulePastePlan.h"
+#include "navigation/SwitcherAccessibility.h"
 #include "navigation/ZvCalendarWidget.h"
 #include "navigation/ZvScheduleDefaultWidget.h"
 #include "navigation/ZvScheduleSwitcherSelectedWidget.h"
@@ -45,6 +46,14 @@ SelectionType selectionOf(const QString &objectName)
     return SelectionType::None;
 }
 
+// Before any part is made: Qt looks a part up for assistive technology when it gets a text, and
+// keeps what it finds.
+QWidget *withAccessibility(QWidget *parent)
+{
+    SwitcherAccessibility::install();
+    return parent;
+}
+
 QString wordOf(SelectionType selection)
 {
     for (const auto &entry : Words) {
@@ -57,7 +66,7 @@ QString wordOf(SelectionType selection)
 } // namespace
 
 ZvScheduleSwitcherWidget::ZvScheduleSwitcherWidget(QWidget *parent)
-    : QScrollArea(parent)
+    : QScrollArea(withAccessibility(parent))
     , m_todayWidget(new ZvTodayWidget)
     , m_calendarWidget(new ZvCalendarWidget)
     , m_weekWidget(new ZvWeekWidget)
@@ -89,10 +98,16 @@ void ZvScheduleSwitcherWidget::createContent()
     setWidget(content);
     auto *layout = new QVBoxLayout(content);
     layout->addWidget(m_todayWidget);
-    fillCalendarFrame(addFrame(NavigationName::CalendarFrame, layout));
+    ZvScheduleSwitcherSelectedWidget *calendarFrame =
+        addFrame(NavigationName::CalendarFrame, layout);
+    calendarFrame->setAccessibleName(tr("Schedule of a date"));
+    fillCalendarFrame(calendarFrame);
     layout->addWidget(m_executedWidget);
-    addFrame(NavigationName::WeekFrame, layout)->addChildWidget(m_weekWidget);
+    ZvScheduleSwitcherSelectedWidget *weekFrame = addFrame(NavigationName::WeekFrame, layout);
+    weekFrame->setAccessibleName(m_weekWidget->accessibleName());
+    weekFrame->addChildWidget(m_weekWidget);
     ZvScheduleSwitcherSelectedWidget *defaultFrame = addFrame(NavigationName::DefaultFrame, layout);
+    defaultFrame->setAccessibleName(m_defaultWidget->accessibleName());
     defaultFrame->addChildWidget(m_defaultWidget);
     defaultFrame->setSelected(true);
     layout->addItem(

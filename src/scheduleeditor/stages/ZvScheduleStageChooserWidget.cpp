@@ -77,7 +77,7 @@ QWidget *ZvScheduleStageChooserWidget::createListPane()
 {
     auto *title = new QLabel(tr("Stage List"));
     title->setStyleSheet(QStringLiteral("margin-top: 5px;"));
-    title->setBuddy(m_listView);
+    m_listView->setAccessibleName(title->text());
     auto *pane = new QWidget;
     auto *layout = new QVBoxLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -2,6 +2,7 @@
 
 #include "timetable/BandMotion.h"
 #include "timetable/TimeAxis.h"
+#include "timetable/TimeTableAccessibility.h"
 #include "timetable/ZvTimeTableBaseItem.h"
 #include "timetable/ZvTimeTableTimeItem.h"
 #include "timetable/ZvTimeTableTimeItemResizeHandle.h"
@@ -155,10 +156,17 @@ void ZvTimeTableScene::onSelectionChanged()
 
     if (selected.size() == 1)
         selected.first()->setResizeHandleVisible(true);
+    TimeTableAccessibility::reportSelection(*this);
     if (selected.isEmpty())
         Q_EMIT timeTableTimeItemHasNotSelected();
     else if (!m_movedSignalBlocked)
         Q_EMIT timeTableTimeItemsMoved(selected);
+}
+
+void ZvTimeTableScene::reportMove()
+{
+    TimeTableAccessibility::reportMove(*this);
+    Q_EMIT timeTableTimeItemsMoved(m_selectedTimeItems);
 }
 
 void ZvTimeTableScene::setDisableSelectionChanged(bool disabled)
@@ -266,7 +274,7 @@ bool ZvTimeTableScene::moveSelectedTimeItems(const QPointF &current, const QPoin
     if (dy == 0.0 || m_selectedTimeItems.isEmpty())
         return false;
     if (BandMotion::move(m_selectedTimeItems, dy))
-        Q_EMIT timeTableTimeItemsMoved(m_selectedTimeItems);
+        reportMove();
     return true;
 }
 
@@ -287,7 +295,7 @@ bool ZvTimeTableScene::resizeSelectedTimeItem(const QPointF &current, const QPoi
     item->setItemHeight(span.height);
     item->setY(span.top);
     item->updateTimeInfo();
-    Q_EMIT timeTableTimeItemsMoved(m_selectedTimeItems);
+    reportMove();
     return true;
 }
 

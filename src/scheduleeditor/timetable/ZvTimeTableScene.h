@@ -85,6 +85,7 @@ private:
     bool resizeSelectedTimeItem(const QPointF &current, const QPointF &last);
     bool continueDrag(const QPointF &current, const QPointF &last);
     void freeMouse();
+    void reportMove();
 
     double m_verticalScale = 1.0;
     double m_horizontalScale = 1.0;

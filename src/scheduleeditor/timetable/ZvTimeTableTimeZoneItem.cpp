@@ -5,6 +5,7 @@
 #include "timetable/CosmeticOutline.h"
 #include "timetable/StageDropPlan.h"
 #include "timetable/TimeAxis.h"
+#include "timetable/TimeTableAccessibility.h"
 #include "timetable/ZvTimeTableBaseItem.h"
 #include "timetable/ZvTimeTableScene.h"
 #include "timetable/ZvTimeTableTimeItem.h"
@@ -189,6 +190,7 @@ bool ZvTimeTableTimeZoneItem::insertTimeItems(QList<ZvTime> times)
             return false;
     }
     m_timeItems.renumber();
+    reportBands(times.size() == 1 && allPlaced);
     return allPlaced;
 }
 
@@ -265,8 +267,10 @@ void ZvTimeTableTimeZoneItem::removeTimeItems(const QList<ZvTime> &times)
         qDeleteAll(m_timeItems.take(times));
         m_timeItems.renumber();
     }
-    if (m_timeItems.count() != countBefore)
-        Q_EMIT timeItemCountChanged(m_timeItems.count());
+    if (m_timeItems.count() == countBefore)
+        return;
+    reportBands(false);
+    Q_EMIT timeItemCountChanged(m_timeItems.count());
 }
 
 void ZvTimeTableTimeZoneItem::removeAllTimeItems()
@@ -280,8 +284,18 @@ void ZvTimeTableTimeZoneItem::removeAllTimeItems()
         while (!m_timeItems.isEmpty())
             delete m_timeItems.takeLast();
     }
-    if (countBefore != 0)
-        Q_EMIT timeItemCountChanged(0);
+    if (countBefore == 0)
+        return;
+    reportBands(false);
+    Q_EMIT timeItemCountChanged(0);
+}
+
+// A single band that was just inserted is the one that is selected.
+void ZvTimeTableTimeZoneItem::reportBands(bool isOneNew) const
+{
+    if (TimeTableAccessibility::isHeard())
+        TimeTableAccessibility::reportBands(view(),
+                                            isOneNew ? selectedTimeItems().value(0) : nullptr);
 }
 
 void ZvTimeTableTimeZoneItem::setTimeItemTimes(const QMap<int, ZvTime> &itemTimes)

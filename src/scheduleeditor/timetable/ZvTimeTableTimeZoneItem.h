@@ -79,6 +79,8 @@ public:
     /// sight.
     void selectNextTimeItem();
     void selectPreviousTimeItem();
+    /// Selects that band of the strip and no other, and brings it into sight.
+    void selectOnly(ZvTimeTableTimeItem *item);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
@@ -114,7 +116,7 @@ private:
 
     ZvTimeTableTimeItem *createTimeItem(const ZvTime &time, int index, double verticalScale);
     bool insertTimeItem(const ZvTime &time, double verticalScale);
-    void selectOnly(ZvTimeTableTimeItem *item);
+    void reportBands(bool isOneNew) const;
 
     double m_margin = 10.0;
     double m_width = 260.0;

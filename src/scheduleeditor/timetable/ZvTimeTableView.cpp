@@ -1,5 +1,6 @@
 #include "timetable/ZvTimeTableView.h"
 
+#include "timetable/TimeTableAccessibility.h"
 #include "timetable/ZvTimeTableBaseItem.h"
 #include "timetable/ZvTimeTableScene.h"
 
@@ -39,6 +40,7 @@ ZvTimeTableView::ZvTimeTableView(QGraphicsScene *scene, QWidget *parent)
     // The scene paints every pixel, so nothing has to be painted under it.
     viewport()->setAutoFillBackground(false);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    TimeTableAccessibility::install();
     setAccessibleName(tr("Time table"));
     setWhatsThis(tr("The day of the schedule, from 0 to 24 o'clock. Stages are dropped here, "
                     "dragged, and made longer or shorter at their edges. Ctrl adds to the "

@@ -27,6 +27,17 @@ namespace {
 
 constexpr int RetryDelay = 1; // ms
 
+// The Tab key comes to widgets in the order in which they came into the window. Pages come after
+// the docks, and the bar of their tabs has to go before them.
+void moveTabOrderToEnd(QWidget *widget)
+{
+    QWidget *last = widget->window()->previousInFocusChain();
+    while (last != widget && last->focusPolicy() == Qt::NoFocus)
+        last = last->previousInFocusChain();
+    if (last != widget && !widget->isAncestorOf(last))
+        QWidget::setTabOrder(last, widget);
+}
+
 } // namespace
 
 ZvScheduleMainWidget::ZvScheduleMainWidget(QWidget *parent)
@@ -143,6 +154,7 @@ void ZvScheduleMainWidget::createTabs()
 void ZvScheduleMainWidget::addChannels(const QList<ZvChannel *> &channels)
 {
     const HiddenMeanwhile hidden(m_tabWidget);
+    moveTabOrderToEnd(m_tabWidget);
     m_areaById.clear();
     for (ZvChannel *channel : channels)
         addChannel(channel);
