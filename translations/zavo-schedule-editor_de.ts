@@ -2330,6 +2330,10 @@ Datenordner: %2</translation>
         <source>Calendar</source>
         <translation>Kalender</translation>
     </message>
+    <message>
+        <source>%1, has a schedule</source>
+        <translation>%1, mit Zeitplan</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvChannelInformationWidget</name>
@@ -2367,6 +2371,10 @@ Datenordner: %2</translation>
     <message>
         <source>NON</source>
         <translation>–</translation>
+    </message>
+    <message>
+        <source>%1, has a schedule</source>
+        <translation>%1, mit Zeitplan</translation>
     </message>
 </context>
 <context>
@@ -2795,7 +2803,7 @@ Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Creates a schedule for a date or a day of the week</source>
-        <translation>Legt einen Zeitplan für ein Datum oder einen Wochentag an</translation>
+        <translation>Legt einen Zeitplan eines Datums oder einen Wochentag an</translation>
     </message>
     <message>
         <source>Asks for a date or a day of the week, creates a schedule for it and shows it. A date or day that has none yet is proposed.</source>
@@ -3032,6 +3040,10 @@ Der Vorgang wurde abgebrochen.</translation>
         <source>Chooses the schedule in the time table: that of a date in the calendar, that of a day of the week, or the default one. The bar at the left edge marks the chosen kind.</source>
         <translation>Wählt den Zeitplan in der Zeittafel: den eines Datums im Kalender, den eines Wochentags oder den Standardzeitplan. Der Balken am linken Rand kennzeichnet die gewählte Art.</translation>
     </message>
+    <message>
+        <source>Schedule of a date</source>
+        <translation>Zeitplan eines Datums</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleTabWidget</name>
@@ -3133,6 +3145,10 @@ Der Vorgang wurde abgebrochen.</translation>
     <message>
         <source>The day of the schedule, from 0 to 24 o&apos;clock. Stages are dropped here, dragged, and made longer or shorter at their edges. Ctrl adds to the selection, and the arrow keys move what is selected.</source>
         <translation>Der Tag des Zeitplans, von 0 bis 24 Uhr. Szenen werden hier abgelegt, verschoben und an ihren Rändern verlängert oder verkürzt. Strg erweitert die Auswahl, und die Pfeiltasten verschieben sie.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1, %2 bis %3</translation>
     </message>
 </context>
 <context>

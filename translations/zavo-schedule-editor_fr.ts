@@ -2330,6 +2330,10 @@ Dossier de données&#xa0;: %2</translation>
         <source>Calendar</source>
         <translation>Calendrier</translation>
     </message>
+    <message>
+        <source>%1, has a schedule</source>
+        <translation>%1, avec une grille</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvChannelInformationWidget</name>
@@ -2367,6 +2371,10 @@ Dossier de données&#xa0;: %2</translation>
     <message>
         <source>NON</source>
         <translation>–</translation>
+    </message>
+    <message>
+        <source>%1, has a schedule</source>
+        <translation>%1, avec une grille</translation>
     </message>
 </context>
 <context>
@@ -3032,6 +3040,10 @@ Le traitement a été interrompu.</translation>
         <source>Chooses the schedule in the time table: that of a date in the calendar, that of a day of the week, or the default one. The bar at the left edge marks the chosen kind.</source>
         <translation>Choisit la grille du tableau horaire&#xa0;: celle d’une date du calendrier, celle d’un jour de semaine, ou celle par défaut. La barre du bord gauche marque le type choisi.</translation>
     </message>
+    <message>
+        <source>Schedule of a date</source>
+        <translation>Grille d’une date</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleTabWidget</name>
@@ -3133,6 +3145,10 @@ Le traitement a été interrompu.</translation>
     <message>
         <source>The day of the schedule, from 0 to 24 o&apos;clock. Stages are dropped here, dragged, and made longer or shorter at their edges. Ctrl adds to the selection, and the arrow keys move what is selected.</source>
         <translation>La journée de la grille, de 0 à 24 heures. On y dépose les scènes, on les déplace, on les allonge ou raccourcit par leurs bords. Ctrl ajoute à la sélection et les flèches la déplacent.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1, de %2 à %3</translation>
     </message>
 </context>
 <context>

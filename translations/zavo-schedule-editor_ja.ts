@@ -2314,6 +2314,10 @@ Qt %1
         <source>Calendar</source>
         <translation>カレンダー</translation>
     </message>
+    <message>
+        <source>%1, has a schedule</source>
+        <translation>%1、スケジュールあり</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvChannelInformationWidget</name>
@@ -2351,6 +2355,10 @@ Qt %1
     <message>
         <source>NON</source>
         <translation>－</translation>
+    </message>
+    <message>
+        <source>%1, has a schedule</source>
+        <translation>%1、スケジュールあり</translation>
     </message>
 </context>
 <context>
@@ -3016,6 +3024,10 @@ Processing was interrupted.</source>
         <source>Chooses the schedule in the time table: that of a date in the calendar, that of a day of the week, or the default one. The bar at the left edge marks the chosen kind.</source>
         <translation>タイムテーブルに表示するスケジュールを、カレンダーの日付、曜日、デフォルトから選択します。左端のバーが選択中の種類を示します。</translation>
     </message>
+    <message>
+        <source>Schedule of a date</source>
+        <translation>日付のスケジュール</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ZvScheduleTabWidget</name>
@@ -3117,6 +3129,10 @@ Processing was interrupted.</source>
     <message>
         <source>The day of the schedule, from 0 to 24 o&apos;clock. Stages are dropped here, dragged, and made longer or shorter at their edges. Ctrl adds to the selection, and the arrow keys move what is selected.</source>
         <translation>スケジュールの 0 時から 24 時までの 1 日です。ここにステージをドロップし、ドラッグして移動し、端で長さを変えます。Ctrl で選択に追加し、矢印キーで選択したものを移動します。</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1、%2～%3</translation>
     </message>
 </context>
 <context>
