@@ -1362,6 +1362,10 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
         <source>Lists the states that each channel file had before it was replaced or removed, with what differs, and brings one back.</source>
         <translation>Listet die Stände auf, die jede Kanaldatei hatte, bevor sie ersetzt oder entfernt wurde, mit den Unterschieden, und holt einen zurück.</translation>
     </message>
+    <message>
+        <source>The first channel was opened from &quot;channel.xml&quot;, a file that goes when it is saved. What was saved is among the safety copies; restore it from there.</source>
+        <translation>Der erste Kanal war aus „channel.xml“ geöffnet, einer Datei, die beim Speichern verschwindet. Was gespeichert wurde, liegt bei den Sicherungskopien; stellen Sie es von dort wieder her.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::SavePrompt</name>

@@ -1362,6 +1362,10 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
         <source>Lists the states that each channel file had before it was replaced or removed, with what differs, and brings one back.</source>
         <translation>Liste les états de chaque fichier de canal avant son remplacement ou sa suppression, avec leurs différences, et en rétablit un.</translation>
     </message>
+    <message>
+        <source>The first channel was opened from &quot;channel.xml&quot;, a file that goes when it is saved. What was saved is among the safety copies; restore it from there.</source>
+        <translation>Le premier canal était ouvert depuis «&#xa0;channel.xml&#xa0;», un fichier qui disparaît à l’enregistrement. Ce qui a été enregistré se trouve parmi les copies de sécurité&#xa0;; restaurez-le à partir de là.</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::SavePrompt</name>

@@ -1353,6 +1353,10 @@ Do you want to cancel the upload and close?</source>
         <source>Lists the states that each channel file had before it was replaced or removed, with what differs, and brings one back.</source>
         <translation>置き換えまたは削除される前の各チャンネルファイルの状態を違いとともに一覧表示し、元に戻します。</translation>
     </message>
+    <message>
+        <source>The first channel was opened from &quot;channel.xml&quot;, a file that goes when it is saved. What was saved is among the safety copies; restore it from there.</source>
+        <translation>最初のチャンネルは「channel.xml」から開かれていました。このファイルは保存すると無くなります。保存した内容はバックアップコピーにあります。そこから復元してください。</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::SavePrompt</name>

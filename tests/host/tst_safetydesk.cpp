@@ -67,6 +67,7 @@ private Q_SLOTS:
     void staysOpenWhileItAsks();
     void tellsOfABasicFileThatStays();
     void keepsWhatCouldNotBeSaved();
+    void tellsOfABasicFileThatGoes();
     void keepsWhatTheResetRemoves();
     void showsTheCopies();
     void showsAThousandChannelsAtOnce();
@@ -354,7 +355,6 @@ void tst_SafetyDesk::tellsOfABasicFileThatStays()
                  qPrintable(notices()->text()));
     }
     notices()->findChild<QAction *>(QStringLiteral("Action_Close_Safety_Notice"))->trigger();
-    drop(0);
     trigger("Action_Save_Channel");
     QVERIFY(notices()->isHidden());
     QCOMPARE(m_folder->read(QStringLiteral("channel/channel.xml")), channel());
@@ -381,6 +381,33 @@ void tst_SafetyDesk::keepsWhatCouldNotBeSaved()
     QCOMPARE(kept.scheduleList().constFirst().timeList().size(), 1);
     trigger("Action_Save_Channel");
     QVERIFY(channel() != before);
+}
+
+// A basic file that is another than the file of the first channel is what is edited, and goes.
+void tst_SafetyDesk::tellsOfABasicFileThatGoes()
+{
+    const MessageBoxAnswer noBox;
+    const QString basicPath = QStringLiteral("channel/channel.xml");
+    end();
+    m_folder->write(basicPath, channel(1));
+    start();
+    drop(0);
+    trigger("Action_Save_Channel");
+    QVERIFY(m_folder->read(basicPath).isEmpty());
+    QVERIFY(!notices()->isHidden());
+    // What was saved is the newest copy. Restored, it is in both files, and stays there.
+    const auto kept = m_net->store()->states(QStringLiteral("channel.xml"));
+    ZvChannel saved(kept.constFirst().path);
+    QVERIFY(saved.readFile());
+    m_desk.reset();
+    m_window.reset();
+    QVERIFY(SafetyDesk::restore(m_folder->path(), kept.constFirst()));
+    QCOMPARE(m_folder->read(basicPath), channel(0));
+    m_net.reset();
+    start();
+    trigger("Action_Save_Channel");
+    QVERIFY(notices()->isHidden());
+    QCOMPARE(m_folder->read(basicPath), channel(0));
 }
 
 void tst_SafetyDesk::keepsWhatTheResetRemoves()

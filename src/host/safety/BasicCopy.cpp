@@ -1,6 +1,7 @@
 #include "safety/BasicCopy.h"
 
 #include "Path.h"
+#include "ZvChannel.h"
 #include "storage/BoundedFile.h"
 #include "storage/ChannelFile.h"
 
@@ -17,8 +18,30 @@ namespace Zavo {
 
 BasicCopy::BasicCopy(const QString &dataDir)
     : m_folder(Path::combine(dataDir, QStringLiteral("channel")))
-    , m_path(Path::combine(m_folder, QStringLiteral("channel.xml")))
+    , m_path(Path::combine(m_folder, fileName()))
 {
+}
+
+QString BasicCopy::fileName()
+{
+    return QStringLiteral("channel.xml");
+}
+
+bool BasicCopy::exists() const
+{
+    const QFileInfo info(m_path);
+    return info.exists() || info.isSymLink();
+}
+
+QString BasicCopy::originalPath() const
+{
+    constexpr int idOfBasicChannel = 0;
+    const QFileInfoList files = channelFiles();
+    const auto original = std::find_if(files.cbegin(), files.cend(), [](const QFileInfo &file) {
+        ZvChannel channel(file.filePath());
+        return channel.readFile() && channel.id() == idOfBasicChannel;
+    });
+    return original == files.cend() ? QString() : original->filePath();
 }
 
 bool BasicCopy::isOutdated() const
@@ -26,12 +49,16 @@ bool BasicCopy::isOutdated() const
     struct stat status = {};
     if (::stat(QFile::encodeName(m_path).constData(), &status) != 0)
         return errno != ENOENT && errno != ENOTDIR;
-    // Most likely the first, so the names come in their order.
-    const QFileInfoList others =
-        QDir(m_folder).entryInfoList({QStringLiteral("channel?*.xml")}, QDir::Files, QDir::Name);
+    const QFileInfoList others = channelFiles();
     return std::none_of(others.cbegin(), others.cend(), [&](const QFileInfo &other) {
         return other.size() == status.st_size && isCopyOf(other.filePath());
     });
+}
+
+// The first is most likely the one that is looked for.
+QFileInfoList BasicCopy::channelFiles() const
+{
+    return QDir(m_folder).entryInfoList({QStringLiteral("channel?*.xml")}, QDir::Files, QDir::Name);
 }
 
 bool BasicCopy::isCopyOf(const QString &filePath) const

@@ -1,6 +1,7 @@
 #include "safety/ChannelGuard.h"
 
 #include "safety/BackupStore.h"
+#include "safety/BasicCopy.h"
 #include "safety/ChannelStates.h"
 #include "safety/FileStamp.h"
 
@@ -49,8 +50,11 @@ int ChannelGuard::rename(const char *from, const char *to)
         m_states->replaceByOurs(filePath, [&] { return FileSystemCalls::rename(from, to); });
     const int error = errno;
     // At once, since the next that happens to the file may be its removal.
-    if (result == 0)
+    if (result == 0) {
         keepReplaced(filePath, &ours);
+        if (QFileInfo(filePath).fileName() == BasicCopy::fileName())
+            m_basicReplaced = true;
+    }
     errno = error;
     return result;
 }

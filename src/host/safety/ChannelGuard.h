@@ -4,6 +4,7 @@
 
 #include <QtGlobal>
 
+#include <atomic>
 #include <functional>
 
 class QFile;
@@ -32,6 +33,9 @@ public:
     /// program is replaced.
     void setQuestion(const Question &question);
 
+    /// True if the copy of the basic channel was replaced since the last call.
+    bool takeBasicReplaced() { return m_basicReplaced.exchange(false); }
+
     /// Replaces a channel file only if nobody objects; otherwise it fails with ECANCELED.
     int rename(const char *from, const char *to) override;
 
@@ -46,6 +50,7 @@ private:
     ChannelStates *m_states = nullptr;
     BackupStore *m_store = nullptr;
     Question m_question;
+    std::atomic<bool> m_basicReplaced{false};
 };
 
 } // namespace Zavo

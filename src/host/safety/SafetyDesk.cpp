@@ -22,11 +22,12 @@
 #include <QMenu>
 #include <QMessageBox>
 
+#include <algorithm>
+
 namespace Zavo {
 
 namespace {
 constexpr int idOfBasicChannel = 0;
-const QLatin1String basicChannelFile("channel.xml");
 } // namespace
 
 SafetyDesk::SafetyDesk(const QString &dataDir, SafetyNet *net, HostWindow *window)
@@ -63,13 +64,18 @@ bool SafetyDesk::restore(const QString &dataDir, const BackupState &state)
     const QString folder = Path::combine(dataDir, QStringLiteral("channel"));
     QByteArray bytes;
     ZvChannel channel(state.path);
-    if (!channel.readFile() || !BoundedFile::read(state.path, ChannelFile::MaximumBytes, &bytes) ||
-        !DurableFile::write(Path::combine(folder, state.fileName), bytes))
+    if (!channel.readFile() || !BoundedFile::read(state.path, ChannelFile::MaximumBytes, &bytes))
         return false;
-    // The copy of the basic channel goes before its file at the next start.
-    const QString basicFile = Path::combine(folder, basicChannelFile);
-    return channel.id() != idOfBasicChannel || state.fileName == basicChannelFile ||
-           !QFileInfo::exists(basicFile) || DurableFile::write(basicFile, bytes);
+    const BasicCopy basic(dataDir);
+    // The basic channel and its copy have to agree at the next start, which shows the copy.
+    QStringList paths{Path::combine(folder, state.fileName)};
+    if (state.fileName == BasicCopy::fileName())
+        paths.prepend(basic.originalPath());
+    else if (channel.id() == idOfBasicChannel && basic.exists())
+        paths.append(basic.filePath());
+    return std::all_of(paths.cbegin(), paths.cend(), [&bytes](const QString &path) {
+        return path.isEmpty() || DurableFile::write(path, bytes);
+    });
 }
 
 void SafetyDesk::tell(const QString &text)
@@ -112,8 +118,13 @@ void SafetyDesk::onCopiesFailed(const QString &reason)
 // One that was another than its original before is another program's, and told of as such.
 QString SafetyDesk::remarkOnSaving()
 {
+    const BasicCopy basic(m_dataDir);
+    if (m_net->takeBasicReplaced() && !basic.exists()) {
+        return tr("The first channel was opened from \"channel.xml\", a file that goes when it is "
+                  "saved. What was saved is among the safety copies; restore it from there.");
+    }
     const bool wasOutdated = m_isBasicCopyOutdated;
-    m_isBasicCopyOutdated = BasicCopy(m_dataDir).isOutdated();
+    m_isBasicCopyOutdated = basic.isOutdated();
     if (!m_isBasicCopyOutdated || wasOutdated)
         return {};
     return tr("The file \"channel.xml\" could not be renewed. The next start would show the first "

@@ -32,6 +32,9 @@ public:
 
     BackupStore *store() { return &m_store; }
 
+    /// True if the copy of the basic channel was replaced since the last call.
+    bool takeBasicReplaced() { return m_guard.takeBasicReplaced(); }
+
     void setQuestion(const ChannelGuard::Question &question) { m_guard.setQuestion(question); }
 
 public Q_SLOTS:
