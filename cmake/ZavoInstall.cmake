@@ -1,5 +1,5 @@
 # What is installed and where: the three libraries with their headers and a CMake package, the
-# program with its guides, its translations and what a desktop wants to know of it. Each rule
+# program with its manual page, its translations and what a desktop wants to know of it. Each rule
 # names the component that it belongs to, from which the packages are made.
 
 include(CMakePackageConfigHelpers)
@@ -89,19 +89,6 @@ if(ZAVO_BUILD_HOST AND TARGET zavo-schedule-editor)
     DIRECTORY ${PROJECT_SOURCE_DIR}/resources/icons/hicolor
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons
     COMPONENT Program)
-  set(zavo_guide_dir ${CMAKE_INSTALL_DATADIR}/doc/zavo-schedule-editor)
-  foreach(guide users-guide checking-and-exporting safety uploading)
-    install(
-      FILES ${PROJECT_SOURCE_DIR}/docs/${guide}.md
-      DESTINATION ${zavo_guide_dir}
-      COMPONENT Program)
-  endforeach()
-  install(
-    DIRECTORY ${PROJECT_SOURCE_DIR}/docs/images
-    DESTINATION ${zavo_guide_dir}
-    COMPONENT Program
-    FILES_MATCHING
-    PATTERN "guide-*.png")
   set(zavo_manual_page ${CMAKE_CURRENT_BINARY_DIR}/packaging/zavo-schedule-editor.1)
   configure_file(${PROJECT_SOURCE_DIR}/packaging/zavo-schedule-editor.1.in ${zavo_manual_page} @ONLY)
   install(

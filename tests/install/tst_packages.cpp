@@ -26,7 +26,6 @@ private Q_SLOTS:
     void saysWhatItNeeds();
     void tellsOthersHowToDependOnTheLibraries();
     void holdsNoPathOfTheBuild();
-    void linksOfGuidesLeadSomewhere();
     void programTellsItsVersion();
     void programChecks_data();
     void programChecks();
@@ -282,23 +281,6 @@ void tst_Packages::holdsNoPathOfTheBuild()
         if (!content.startsWith("\177ELF"))
             QVERIFY2(!content.contains(ZAVO_SOURCE_DIR), qPrintable(name));
     }
-}
-
-void tst_Packages::linksOfGuidesLeadSomewhere()
-{
-    const QDir guides(systemPath(QStringLiteral("/usr/share/doc/zavo-schedule-editor")));
-    static const QRegularExpression link(QStringLiteral("\\]\\(([^)#]+)"));
-    int links = 0;
-    for (const QString &name : guides.entryList({QStringLiteral("*.md")})) {
-        QFile guide(guides.filePath(name));
-        QVERIFY(guide.open(QIODevice::ReadOnly));
-        auto matches = link.globalMatch(QString::fromUtf8(guide.readAll()));
-        for (; matches.hasNext(); ++links) {
-            const QString target = matches.next().captured(1);
-            QVERIFY2(guides.exists(target), qPrintable(name + QLatin1String(": ") + target));
-        }
-    }
-    QVERIFY(links > 5);
 }
 
 /// The channels of the example data that have stages at all hours.
