@@ -1935,11 +1935,11 @@ Möchten Sie diesen löschen und einfügen?</translation>
     </message>
     <message>
         <source>Keeping what is replaced</source>
-        <translation>Was ersetzt wird, wird aufgehoben</translation>
+        <translation>Ersetztes sichern</translation>
     </message>
     <message>
         <source>There is no room to keep what is replaced. The target keeps what it had.</source>
-        <translation>Um aufzuheben, was ersetzt wird, ist kein Platz. Das Ziel behält, was es hatte.</translation>
+        <translation>Es ist kein Platz, um zu sichern, was ersetzt wird. Das Ziel behält seinen bisherigen Stand.</translation>
     </message>
     <message numerus="yes">
         <source>%n channel file(s) that were replaced or removed there are among the safety copies.</source>
@@ -1981,8 +1981,8 @@ Möchten Sie diesen löschen und einfügen?</translation>
     <message numerus="yes">
         <source>The check found %n thing(s):</source>
         <translation>
-            <numerusform>Die Prüfung fand %n Punkt:</numerusform>
-            <numerusform>Die Prüfung fand %n Punkte:</numerusform>
+            <numerusform>Die Prüfung ergab %n Befund:</numerusform>
+            <numerusform>Die Prüfung ergab %n Befunde:</numerusform>
         </translation>
     </message>
 </context>

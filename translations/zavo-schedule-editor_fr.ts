@@ -854,7 +854,7 @@ Vérifiez que le fichier est accessible en écriture.</translation>
     </message>
     <message>
         <source>&amp;First date:</source>
-        <translation>&amp;Première date&#xa0;:</translation>
+        <translation>Premiè&amp;re date&#xa0;:</translation>
     </message>
     <message>
         <source>A &amp;date of the week:</source>
@@ -1935,7 +1935,7 @@ Voulez-vous la supprimer et coller&#xa0;?</translation>
     </message>
     <message>
         <source>Keeping what is replaced</source>
-        <translation>Conservation de ce qui est remplacé</translation>
+        <translation>Conservation du remplacé</translation>
     </message>
     <message>
         <source>There is no room to keep what is replaced. The target keeps what it had.</source>
@@ -1981,8 +1981,8 @@ Voulez-vous la supprimer et coller&#xa0;?</translation>
     <message numerus="yes">
         <source>The check found %n thing(s):</source>
         <translation>
-            <numerusform>La vérification a trouvé %n point&#xa0;:</numerusform>
-            <numerusform>La vérification a trouvé %n points&#xa0;:</numerusform>
+            <numerusform>La vérification a trouvé %n anomalie&#xa0;:</numerusform>
+            <numerusform>La vérification a trouvé %n anomalies&#xa0;:</numerusform>
         </translation>
     </message>
 </context>

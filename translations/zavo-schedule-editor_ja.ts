@@ -1833,7 +1833,7 @@ Do you want to delete the assigned time band and to paste?</source>
     </message>
     <message>
         <source>Checking the data: %1 of %2 files...</source>
-        <translation>データを確認しています: %1 / %2 ファイル...</translation>
+        <translation>データを検査しています: %1 / %2 ファイル...</translation>
     </message>
     <message>
         <source>Cancelled before anything was sent.</source>
@@ -1845,14 +1845,14 @@ Do you want to delete the assigned time band and to paste?</source>
     </message>
     <message>
         <source>Checking the data...</source>
-        <translation>データを確認しています...</translation>
+        <translation>データを検査しています...</translation>
     </message>
 </context>
 <context>
     <name>Zavo::UploadFindingsDialog</name>
     <message>
         <source>Check Before Upload</source>
-        <translation>アップロード前の確認</translation>
+        <translation>アップロード前の検査</translation>
     </message>
     <message>
         <source>%1 Upload all the same?</source>
@@ -1923,7 +1923,7 @@ Do you want to delete the assigned time band and to paste?</source>
     </message>
     <message>
         <source>Keeping what is replaced</source>
-        <translation>置き換えられるものを保存しています</translation>
+        <translation>置き換え分を保存中</translation>
     </message>
     <message>
         <source>There is no room to keep what is replaced. The target keeps what it had.</source>
@@ -1967,7 +1967,7 @@ Do you want to delete the assigned time band and to paste?</source>
     <message numerus="yes">
         <source>The check found %n thing(s):</source>
         <translation>
-            <numerusform>確認で %n 件見つかりました:</numerusform>
+            <numerusform>検査で %n 件見つかりました:</numerusform>
         </translation>
     </message>
 </context>

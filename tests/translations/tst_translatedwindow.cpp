@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDockWidget>
 #include <QLabel>
@@ -21,9 +22,11 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTimer>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Zavo;
@@ -32,10 +35,20 @@ using ZavoTest::TemporaryDataFolder;
 namespace {
 
 constexpr int lookingIntervalMs = 10;
+constexpr int longestTimerMs = 150;
+constexpr int mostChoices = 6;
 
 QString testedLanguage()
 {
     return qEnvironmentVariable("ZAVO_TEST_LANGUAGE", QStringLiteral("de"));
+}
+
+bool isDialogShown()
+{
+    const QList<QWidget *> windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        return window->isVisible() && qobject_cast<const QDialog *>(window);
+    });
 }
 
 } // namespace
@@ -62,6 +75,7 @@ private:
     {
         return m_window->findChild<QWidget *>(QLatin1String(name));
     }
+    void inspect(QWidget *window);
     void look(QWidget *window);
     void selectStage() const;
     QList<QMenu *> allMenus() const;
@@ -77,6 +91,7 @@ private:
     QSet<QString> m_seenDialogs;
     QStringList m_problems;
     bool m_isLooking = false;
+    int m_inspections = 0;
     QSet<QWidget *> m_looked;
 };
 
@@ -170,10 +185,12 @@ void tst_TranslatedWindow::windowHasRoomForItsTexts()
         if (label->text() == today)
             label->setText(widest);
     }
-    QTest::qWait(50);
+    QTest::qWait(longestTimerMs);
     draw(m_window.get(), QString::fromLatin1(QTest::currentDataTag()));
-    const QStringList cut = TextFit::cutTexts(m_window.get());
-    QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QLatin1Char('\n'))));
+    // The timers of a change of schedule lay labels out anew.
+    QStringList cut;
+    QTRY_VERIFY2((cut = TextFit::cutTexts(m_window.get())).isEmpty(),
+                 qPrintable(cut.join(QLatin1Char('\n'))));
 }
 
 QList<QMenu *> tst_TranslatedWindow::allMenus() const
@@ -215,15 +232,38 @@ void tst_TranslatedWindow::selectStage() const
     list->setCurrentIndex(list->model()->index(0, 0, list->rootIndex()));
 }
 
+void tst_TranslatedWindow::inspect(QWidget *window)
+{
+    // A text that came just now has no room yet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (const QString &line : TextFit::cutTexts(window) + TextFit::sharedMnemonics(window)) {
+        const QString problem = window->windowTitle() + QStringLiteral(": ") + line;
+        if (!m_problems.contains(problem))
+            m_problems.append(problem);
+    }
+    draw(window, QStringLiteral("%1 %2").arg(window->windowTitle()).arg(++m_inspections));
+}
+
 void tst_TranslatedWindow::look(QWidget *window)
 {
     m_looked.insert(window);
-    // A text that came just now has no room yet.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     m_seenDialogs.insert(QString::fromLatin1(window->metaObject()->className()));
-    for (const QString &line : TextFit::cutTexts(window) + TextFit::sharedMnemonics(window))
-        m_problems.append(window->windowTitle() + QStringLiteral(": ") + line);
-    draw(window, QString::number(m_looked.size()) + QLatin1Char(' ') + window->windowTitle());
+    inspect(window);
+    // What is chosen changes what else is shown.
+    const QList<QRadioButton *> kinds = window->findChildren<QRadioButton *>();
+    for (QRadioButton *kind : kinds) {
+        if (kind->isVisible() && kind->isEnabled() && !kind->isChecked()) {
+            kind->click();
+            inspect(window);
+        }
+    }
+    const QList<QComboBox *> boxes = window->findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
+        for (int i = 0; box->isVisible() && i < qMin(box->count(), mostChoices); ++i) {
+            box->setCurrentIndex(i);
+            inspect(window);
+        }
+    }
     if (auto *add = window->findChild<QPushButton *>(QLatin1String(UploadNames::addButton)))
         QTest::mouseClick(add, Qt::LeftButton);
 }
@@ -274,7 +314,8 @@ void tst_TranslatedWindow::dialogsHaveRoomForTheirTexts()
             continue;
         action->setEnabled(true);
         action->trigger();
-        QTest::qWait(3 * lookingIntervalMs);
+        QCoreApplication::processEvents();
+        QTRY_VERIFY_WITH_TIMEOUT(!isDialogShown(), 30000);
     }
     m_isLooking = false;
     QVERIFY2(m_problems.isEmpty(), qPrintable(m_problems.join(QLatin1Char('\n'))));
