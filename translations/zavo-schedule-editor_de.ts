@@ -1042,6 +1042,37 @@ Wenn Sie sicher sind, dass das andere Programm nicht mehr läuft, weil seine Mas
     </message>
 </context>
 <context>
+    <name>Zavo::GuideDialog</name>
+    <message>
+        <source>User&apos;s Guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Page of the guide</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Vor</translation>
+    </message>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Find in the page</source>
+        <translation>In der Seite suchen</translation>
+    </message>
+    <message>
+        <source>It is not in this page.</source>
+        <translation>Das steht nicht auf dieser Seite.</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::HostWindow</name>
     <message>
         <source>%1 - Zavo Schedule Editor</source>
@@ -1138,6 +1169,18 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
     <message>
         <source>Tells about Qt, the library that the program is built on.</source>
         <translation>Informiert über Qt, die Bibliothek, auf der das Programm beruht.</translation>
+    </message>
+    <message>
+        <source>User&apos;s &amp;Guide</source>
+        <translation>&amp;Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Leads through the first hour and explains every message</source>
+        <translation>Führt durch die erste Stunde und erklärt jede Meldung (englisch)</translation>
+    </message>
+    <message>
+        <source>Opens the guide in a window of its own, which can stay open beside the work.</source>
+        <translation>Öffnet das englische Handbuch in einem eigenen Fenster, das neben der Arbeit offen bleiben kann.</translation>
     </message>
 </context>
 <context>

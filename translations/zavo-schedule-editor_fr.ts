@@ -1042,6 +1042,37 @@ Si vous êtes sûr que l’autre programme ne fonctionne plus, parce que sa mach
     </message>
 </context>
 <context>
+    <name>Zavo::GuideDialog</name>
+    <message>
+        <source>User&apos;s Guide</source>
+        <translation>Guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Page of the guide</source>
+        <translation>Page du guide</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>Re&amp;chercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Find in the page</source>
+        <translation>Rechercher dans la page</translation>
+    </message>
+    <message>
+        <source>It is not in this page.</source>
+        <translation>Introuvable dans cette page.</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::HostWindow</name>
     <message>
         <source>%1 - Zavo Schedule Editor</source>
@@ -1138,6 +1169,18 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
     <message>
         <source>Tells about Qt, the library that the program is built on.</source>
         <translation>Informe sur Qt, la bibliothèque sur laquelle repose le programme.</translation>
+    </message>
+    <message>
+        <source>User&apos;s &amp;Guide</source>
+        <translation>&amp;Guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Leads through the first hour and explains every message</source>
+        <translation>Accompagne la première heure et explique chaque message (en anglais)</translation>
+    </message>
+    <message>
+        <source>Opens the guide in a window of its own, which can stay open beside the work.</source>
+        <translation>Ouvre le guide, en anglais, dans une fenêtre à part, qui peut rester ouverte pendant le travail.</translation>
     </message>
 </context>
 <context>

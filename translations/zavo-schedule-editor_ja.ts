@@ -1033,6 +1033,37 @@ If you are sure that the other program no longer runs, because its machine was s
     </message>
 </context>
 <context>
+    <name>Zavo::GuideDialog</name>
+    <message>
+        <source>User&apos;s Guide</source>
+        <translation>ユーザーガイド</translation>
+    </message>
+    <message>
+        <source>Page of the guide</source>
+        <translation>ガイドのページ</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>戻る(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>進む(&amp;F)</translation>
+    </message>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>検索(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Find in the page</source>
+        <translation>ページ内を検索</translation>
+    </message>
+    <message>
+        <source>It is not in this page.</source>
+        <translation>このページにはありません。</translation>
+    </message>
+</context>
+<context>
     <name>Zavo::HostWindow</name>
     <message>
         <source>%1 - Zavo Schedule Editor</source>
@@ -1129,6 +1160,18 @@ Do you want to cancel the upload and close?</source>
     <message>
         <source>Tells about Qt, the library that the program is built on.</source>
         <translation>プログラムの基盤となるライブラリ Qt について説明します。</translation>
+    </message>
+    <message>
+        <source>User&apos;s &amp;Guide</source>
+        <translation>ユーザーガイド(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Leads through the first hour and explains every message</source>
+        <translation>最初の 1 時間の操作とすべてのメッセージを説明します (英語)</translation>
+    </message>
+    <message>
+        <source>Opens the guide in a window of its own, which can stay open beside the work.</source>
+        <translation>作業中も開いたままにできる別のウィンドウに、英語のガイドを開きます。</translation>
     </message>
 </context>
 <context>
