@@ -80,9 +80,13 @@ private:
 
 void StripStory::log(const char *what, int detail) const
 {
-    if (m_logged)
-        std::fprintf(stderr, "%s %d (place %d, %d bands)\n", what, detail,
-                     m_house.area()->undoStack()->index(), m_house.zone()->timeItemCount());
+    if (!m_logged)
+        return;
+    const QList<ZvTime> times = m_house.area()->currentTimes();
+    std::fprintf(stderr, "%s %d (place %d, %d bands, %s, type %d)\n", what, detail,
+                 m_house.area()->undoStack()->index(), times.size(),
+                 times.isEmpty() ? "" : qPrintable(times.first().startTime().toString()),
+                 m_house.area()->currentScheduleInfo().type());
 }
 
 void StripStory::settle()
@@ -229,7 +233,7 @@ void StripStory::useHistory(int what)
 
 QTime StripStory::time()
 {
-    return QTime(0, 0).addMSecs(static_cast<int>(m_input->word() * 1000.0 * DaySeconds / 65536.0));
+    return QTime(0, 0).addSecs(static_cast<int>(m_input->word() * double(DaySeconds) / 65536.0));
 }
 
 ZvScheduleBasicInfo StripStory::info()

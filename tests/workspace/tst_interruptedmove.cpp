@@ -90,6 +90,7 @@ private Q_SLOTS:
     void pressWithoutAMoveIsNoStep();
     void mouseMovesNothingAfterTheInterruption();
     void lostRelease();
+    void rightClickDuringADrag();
     void backToTheStartPastAnObstacle();
     void pageShowsAnotherScheduleByItself();
 
@@ -266,6 +267,26 @@ void tst_InterruptedMove::lostRelease()
     next.click(QPointF(180.0, yOf("08:30:00")));
     QCOMPARE(tabs.first()->undoStack()->count(), 1);
     QCOMPARE(tabs.state(), moved);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+}
+
+// A click of the right button ends a drag, of which nobody has heard yet.
+void tst_InterruptedMove::rightClickDuringADrag()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("10:30:00")));
+    SceneMouse mouse(tabs.view());
+    mouse.press(QPointF(180.0, yOf("10:30:00")));
+    mouse.moveTo(QPointF(180.0, yOf("11:30:00")));
+    mouse.press(QPointF(180.0, yOf("11:30:00")), Qt::RightButton);
+    mouse.release(Qt::RightButton);
+    const QStringList moved = tabs.state();
+    tabs.widget()->selectAllItems();
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
+    mouse.release();
+    QCOMPARE(tabs.state(), moved);
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
     tabs.widget()->undo();
     QCOMPARE(tabs.first()->currentTimes(), mondayBands);
 }

@@ -37,6 +37,7 @@ class tst_ScheduleRecorder : public QObject
 private Q_SLOTS:
     void nothingWithoutATab();
     void droppedStage();
+    void droppedStageBetweenTheSeconds();
     void draggedBand();
     void keyMove();
     void partialMoveIsNoStep();
@@ -103,6 +104,28 @@ void tst_ScheduleRecorder::droppedStage()
     QCOMPARE(tabs.state(), before);
     tabs.group()->redo();
     QCOMPARE(tabs.state(), after);
+}
+
+// Its geometry gives a time back a millisecond short, and one that is close to a second is stored
+// on it: undo has to know the band all the same.
+void tst_ScheduleRecorder::droppedStageBetweenTheSeconds()
+{
+    const TwoTabs tabs;
+    const QStringList names{QStringLiteral("x.xml"), QStringLiteral("y.xml")};
+    for (int second = 7; second < 3500; second += 61) {
+        for (const int ms : {6, 7, 8, 992, 993, 994}) {
+            // The first of the two ends half way to 23 o'clock, so many milliseconds after a
+            // second.
+            const int startMs = second * 1000 + (2 * ms) % 1000;
+            const QTime start = QTime(22, 0).addMSecs(startMs);
+            QCOMPARE(tabs.scene()->timeZoneItem()->insertStages(start, names).size(), 2);
+            tabs.first()->switchToScheduleInfo(defaultInfo, false);
+            tabs.first()->switchToScheduleInfo(mondayInfo, false);
+            tabs.widget()->undo();
+            QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+            tabs.first()->storeCurrentSchedule();
+        }
+    }
 }
 
 void tst_ScheduleRecorder::draggedBand()

@@ -234,6 +234,7 @@ void ZvTimeTableScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
     if (m_baseItem && (event->buttons() & Qt::LeftButton) &&
         continueDrag(event->scenePos(), event->lastScenePos())) {
+        m_hasDragged = true;
         event->accept();
         return;
     }
@@ -256,16 +257,23 @@ void ZvTimeTableScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
     }
     QGraphicsScene::mouseReleaseEvent(event);
     const bool movedInScene = event->scenePos() != event->buttonDownScenePos(event->button());
-    if (movedInScene || event->pos() != m_pressPos)
-        Q_EMIT mousePressingMoved();
+    if (movedInScene || event->pos() != m_pressPos || m_hasDragged)
+        reportDrag();
+}
+
+void ZvTimeTableScene::reportDrag()
+{
+    m_hasDragged = false;
+    Q_EMIT mousePressingMoved();
 }
 
 void ZvTimeTableScene::completeDrag()
 {
-    if (m_dragMode == NoDrag)
+    // The right button ends a drag without a report.
+    if (m_dragMode == NoDrag && !m_hasDragged)
         return;
     m_dragMode = NoDrag;
-    Q_EMIT mousePressingMoved();
+    reportDrag();
 }
 
 bool ZvTimeTableScene::moveSelectedTimeItems(const QPointF &current, const QPointF &last)

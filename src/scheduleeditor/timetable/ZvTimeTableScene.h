@@ -84,6 +84,7 @@ private:
     bool isOnSelectedTimeItem(const QPointF &point) const;
     bool resizeSelectedTimeItem(const QPointF &current, const QPointF &last);
     bool continueDrag(const QPointF &current, const QPointF &last);
+    void reportDrag();
     void freeMouse();
     void reportMove();
 
@@ -93,6 +94,7 @@ private:
     QList<ZvTimeTableTimeItem *> m_selectedTimeItems;
     ZvTimeTableTimeZoneItem *m_timeZoneItem = nullptr;
     DragMode m_dragMode = NoDrag;
+    bool m_hasDragged = false; ///< and not reported it yet
     bool m_movedSignalBlocked = false;
     QPointF m_pressPos;
     bool m_disableSelectionChanged = false;

@@ -1,9 +1,11 @@
 #include "workspace/ScheduleRecorder.h"
 
+#include "ZvChannel.h"
 #include "domain/MessageBox.h"
 #include "domain/ScheduleText.h"
 #include "services/UndoCommands.h"
 #include "timetable/ZvScheduleWorkingArea.h"
+#include "timetable/ZvTimeTableTimeItem.h"
 #include "workspace/ChannelSaver.h"
 
 #include <QLocale>
@@ -23,6 +25,29 @@ QString deletedScheduleText(const ZvScheduleBasicInfo &info)
         return scheduleText(info);
     const int day = info.date().dayOfWeek();
     return day == 0 ? QString() : QLocale::system().dayName(day, QLocale::LongFormat);
+}
+
+/// The bands of a drop, which are selected, as the page has made them: their geometry gives their
+/// times back truncated.
+QList<ZvTime> asShown(const QList<ZvTime> &times, const ZvScheduleWorkingArea *area)
+{
+    QList<ZvTime> shown;
+    const QList<ZvTimeTableTimeItem *> items = area->selectedTimeItems();
+    for (const ZvTimeTableTimeItem *item : items)
+        shown.append(item->timeInfo());
+    return shown == times ? shown : times;
+}
+
+/// The bands as a channel keeps them when it stores them: a time close to a second is put on it.
+QList<ZvTime> asStored(const QList<ZvTime> &times)
+{
+    ZvSchedule schedule;
+    schedule.setType(ZvSchedule::Default);
+    ZvChannel channel{QString()};
+    channel.insertSchedule(schedule);
+    schedule.setTimeList(times);
+    channel.insertSchedule(schedule);
+    return channel.scheduleList().constFirst().timeList();
 }
 
 QList<ZvScheduleBasicInfo> missingSchedules(const ZvScheduleWorkingArea *area,
@@ -178,10 +203,12 @@ void ScheduleRecorder::onResetTimeTable(const QString &newDefaultStageName,
                                              area->currentScheduleInfo(), area));
 }
 
+// A drop divides its gap to the millisecond. Undo looks for what is there by then.
 void ScheduleRecorder::onTimeItemInserted(const QList<ZvTime> &times)
 {
     if (ZvScheduleWorkingArea *area = currentWorkingArea())
-        push(new UndoCommand::InsertTimeItem(times, area->currentScheduleInfo(), area));
+        push(new UndoCommand::InsertTimeItem(asStored(asShown(times, area)),
+                                             area->currentScheduleInfo(), area));
 }
 
 void ScheduleRecorder::onTimeItemMovingFinished(const QMap<int, QRectF> &after,
