@@ -8,8 +8,12 @@
 #include "LanguageChoice.h"
 #include "TemporaryDataFolder.h"
 #include "ZvEditorConfig.h"
+#include "check/CheckFinding.h"
+#include "safety/DataFolderLock.h"
+#include "safety/FolderInUseBox.h"
 #include "safety/SafetyDesk.h"
 #include "safety/SafetyNet.h"
+#include "upload/UploadFindingsDialog.h"
 #include "upload/UploadNames.h"
 
 #include <QAction>
@@ -24,6 +28,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QtTest>
 
 #include <algorithm>
@@ -67,6 +72,7 @@ private Q_SLOTS:
     void windowHasRoomForItsTexts();
     void menusHaveMnemonicsOfTheirOwn();
     void dialogsHaveRoomForTheirTexts();
+    void dialogsOfOtherTimesHaveRoomForTheirTexts();
     void lacksNoText();
     void lookAtDialogs();
 
@@ -264,6 +270,14 @@ void tst_TranslatedWindow::look(QWidget *window)
             inspect(window);
         }
     }
+    const QList<QTreeWidget *> trees = window->findChildren<QTreeWidget *>();
+    for (QTreeWidget *tree : trees) {
+        QTreeWidgetItem *const first = tree->topLevelItem(0);
+        if (first && tree->isVisible()) {
+            tree->setCurrentItem(first->childCount() > 0 ? first->child(0) : first);
+            inspect(window);
+        }
+    }
     if (auto *add = window->findChild<QPushButton *>(QLatin1String(UploadNames::addButton)))
         QTest::mouseClick(add, Qt::LeftButton);
 }
@@ -309,7 +323,8 @@ void tst_TranslatedWindow::dialogsHaveRoomForTheirTexts()
         const QPointer<QAction> action(known);
         const bool opensDialog =
             action && (action->text().endsWith(QStringLiteral("...")) ||
-                       action->objectName() == QLatin1String(HostNames::aboutAction));
+                       action->objectName() == QLatin1String(HostNames::aboutAction) ||
+                       action->objectName() == QLatin1String(HostNames::guideAction));
         if (!opensDialog)
             continue;
         action->setEnabled(true);
@@ -322,9 +337,28 @@ void tst_TranslatedWindow::dialogsHaveRoomForTheirTexts()
     for (const auto *dialog :
          {"Zavo::ConfigurationDialog", "Zavo::ChannelConfigurationDialog", "Zavo::CheckDialog",
           "Zavo::ExportDialog", "Zavo::UploadDialog", "Zavo::UploadTargetDialog",
-          "Zavo::BackupDialog", "Zavo::VersionBox", "Zavo::ZvScheduleChangeChannelOrderDialog",
-          "Zavo::ZvScheduleSpecifyScheduleDialog", "QMessageBox"})
+          "Zavo::BackupDialog", "Zavo::VersionBox", "Zavo::ShortcutDialog", "Zavo::GuideDialog",
+          "Zavo::ZvScheduleChangeChannelOrderDialog", "Zavo::ZvScheduleSpecifyScheduleDialog",
+          "QMessageBox"})
         QVERIFY2(m_seenDialogs.contains(QLatin1String(dialog)), dialog);
+}
+
+void tst_TranslatedWindow::dialogsOfOtherTimesHaveRoomForTheirTexts()
+{
+    CheckReport report;
+    report.findings.append({CheckFinding::Kind::NoChannel, QStringLiteral("channel0.xml"),
+                            QStringLiteral("Lobby"), QString(), QStringLiteral("?")});
+    UploadFindingsDialog findings(report, m_window.get());
+    findings.show();
+    inspect(&findings);
+    DataFolderLock holder(m_data->path());
+    QCOMPARE(holder.take(), DataFolderLock::Result::Taken);
+    DataFolderLock other(m_data->path());
+    QCOMPARE(other.take(), DataFolderLock::Result::HeldByOther);
+    FolderInUseBox inUse(m_data->path(), other, m_window.get());
+    inUse.show();
+    inspect(&inUse);
+    QVERIFY2(m_problems.isEmpty(), qPrintable(m_problems.join(QLatin1Char('\n'))));
 }
 
 void tst_TranslatedWindow::lacksNoText()
