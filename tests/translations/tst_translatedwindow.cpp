@@ -74,6 +74,9 @@ private Q_SLOTS:
     void dialogsHaveRoomForTheirTexts();
     void dialogsOfOtherTimesHaveRoomForTheirTexts();
     void lacksNoText();
+
+protected Q_SLOTS:
+    // No test.
     void lookAtDialogs();
 
 private:
