@@ -217,7 +217,7 @@ QMenu *HostWindow::createHelpMenu()
                            "work."));
     QAction *const whatsThis = menu->addAction(tr("&What's This?"), this, SLOT(explain()));
     whatsThis->setObjectName(QLatin1String(HostNames::whatsThisAction));
-    whatsThis->setShortcut(Qt::SHIFT + Qt::Key_F1);
+    whatsThis->setShortcut(QKeySequence(QStringLiteral("Shift+F1")));
     whatsThis->setStatusTip(tr("Explains what you click next"));
     whatsThis->setWhatsThis(tr("Click a command or a part of the window after this, and it is "
                                "explained. Esc ends it."));
