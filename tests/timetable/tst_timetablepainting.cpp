@@ -62,6 +62,8 @@ private Q_SLOTS:
     void fillsTheStripUnderTheRuler();
     void drawsTheSameInParts_data();
     void drawsTheSameInParts();
+    void leavesNoPixelOfTheViewOut_data();
+    void leavesNoPixelOfTheViewOut();
     void leavesThePainterAsItWas();
     void fillsAndOutlinesABand_data();
     void fillsAndOutlinesABand();
@@ -209,6 +211,36 @@ void tst_TimeTablePainting::drawsTheSameInParts()
         viewport->render(&parts, part.topLeft(), part);
     }
     QCOMPARE(parts, whole);
+}
+
+void tst_TimeTablePainting::leavesNoPixelOfTheViewOut_data()
+{
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<int>("width");
+    for (double scale : {0.25, 1.0, 6.0, 60.0}) {
+        // From a width of 743 on the table grows with the view, by factors that are not whole.
+        for (int width : {200, 420, 760, 801, 1003})
+            QTest::addRow("%g, %d wide", scale, width) << scale << width;
+    }
+}
+
+void tst_TimeTablePainting::leavesNoPixelOfTheViewOut()
+{
+    QFETCH(double, scale);
+    QFETCH(int, width);
+    m_table->setScale(scale);
+    m_table->view()->resize(width, 300);
+    for (double y : {0.0, 100.0, 735.0, 1460.0}) {
+        m_table->scrollTo(y);
+        QWidget *viewport = m_table->view()->viewport();
+        QImage onBlack(viewport->size(), QImage::Format_RGB32);
+        onBlack.fill(Qt::black);
+        QImage onGreen = onBlack;
+        onGreen.fill(Qt::green);
+        viewport->render(&onBlack, QPoint(), QRegion(), QWidget::RenderFlags());
+        viewport->render(&onGreen, QPoint(), QRegion(), QWidget::RenderFlags());
+        QCOMPARE(onBlack, onGreen);
+    }
 }
 
 void tst_TimeTablePainting::leavesThePainterAsItWas()
