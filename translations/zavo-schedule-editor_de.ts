@@ -1201,6 +1201,10 @@ Möchten Sie das Hochladen abbrechen und schließen?</translation>
         <source>Hides this notice until there is another one.</source>
         <translation>Verbirgt diesen Hinweis, bis es einen neuen gibt.</translation>
     </message>
+    <message>
+        <source>More commands</source>
+        <translation>Weitere Befehle</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::Program</name>

@@ -1201,6 +1201,10 @@ Voulez-vous annuler l’envoi et fermer&#xa0;?</translation>
         <source>Hides this notice until there is another one.</source>
         <translation>Masque cet avis jusqu’au prochain.</translation>
     </message>
+    <message>
+        <source>More commands</source>
+        <translation>Autres commandes</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::Program</name>

@@ -1192,6 +1192,10 @@ Do you want to cancel the upload and close?</source>
         <source>Hides this notice until there is another one.</source>
         <translation>次のお知らせがあるまで、このお知らせを閉じます。</translation>
     </message>
+    <message>
+        <source>More commands</source>
+        <translation>その他のコマンド</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::Program</name>

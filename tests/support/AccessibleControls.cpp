@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBrowser>
 #include <QWindow>
 
 namespace ZavoTest {
@@ -30,7 +31,8 @@ bool isPartOfControl(const QWidget *widget)
 {
     for (const QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
         if (qobject_cast<const QAbstractSpinBox *>(parent) ||
-            qobject_cast<const QComboBox *>(parent) || parent->inherits("QHeaderView"))
+            qobject_cast<const QComboBox *>(parent) || qobject_cast<const QLineEdit *>(parent) ||
+            parent->inherits("QHeaderView"))
             return true;
     }
     return widget->inherits("QHeaderView") || widget->inherits("QTableCornerButton") ||
@@ -111,14 +113,15 @@ QStringList namelessControls(const QWidget *root)
 
 QList<QWidget *> tabRound(QWidget *window)
 {
-    constexpr int manyKeys = 300;
+    constexpr int manyKeys = 1000;
     QList<QWidget *> visited;
     for (int i = 0; i < manyKeys; ++i) {
         QTest::keyClick(window->windowHandle(), Qt::Key_Tab);
         QWidget *const focus = QApplication::focusWidget();
-        // Within a date the key goes from part to part.
-        if (!visited.isEmpty() && focus == visited.last() &&
-            qobject_cast<QAbstractSpinBox *>(focus))
+        // Within a date the key goes from part to part, within a page from link to link.
+        const bool hasStops =
+            qobject_cast<QAbstractSpinBox *>(focus) || qobject_cast<QTextBrowser *>(focus);
+        if (hasStops && !visited.isEmpty() && focus == visited.last())
             continue;
         if (!focus || visited.contains(focus))
             break;

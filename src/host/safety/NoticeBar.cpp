@@ -38,6 +38,8 @@ NoticeBar::NoticeBar(QAction *copiesAction, QWidget *parent)
         button->setAutoRaise(true);
         line->addWidget(button);
     }
+    if (auto *const more = findChild<QToolButton *>(QLatin1String(SafetyNames::noticeExtension)))
+        more->setAccessibleName(tr("More commands"));
     line->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
     addWidget(content);
     hide();

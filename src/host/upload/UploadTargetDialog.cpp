@@ -21,7 +21,6 @@ UploadTargetDialog::UploadTargetDialog(const QString &address, QWidget *parent)
     : QDialog(parent)
     , m_address(new QLineEdit(address, this))
     , m_problem(new QLabel(this))
-    , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
     setWindowTitle(address.isEmpty() ? tr("Add Target") : tr("Change Target"));
     auto *const label = new QLabel(tr("&Address of the target:"), this);
@@ -49,6 +48,8 @@ UploadTargetDialog::UploadTargetDialog(const QString &address, QWidget *parent)
     auto *const row = new QHBoxLayout;
     row->addWidget(m_address);
     row->addWidget(browseButton);
+    // After the others, so that the Tab key comes to it last.
+    m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addLayout(row);
