@@ -42,6 +42,7 @@ GuideDialog::GuideDialog(QWidget *parent)
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
     layout->addWidget(buttons);
+    setTabOrder(m_findField, m_browser);
     resize(guideDialogSize * ZvSystemInfo::getDpiRatio(this));
     m_browser->setSource(QUrl(QLatin1String(GuideNames::firstPage)));
     m_browser->setFocus();
