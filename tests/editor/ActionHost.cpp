@@ -131,6 +131,7 @@ bool ActionHost::show(Target target)
     if (!main() || tabs()->count() < TabCount || (target == Target::First) != isFirst())
         return false;
     m_target = target;
+    m_isDeclining = false;
     delete m_nameEditor;
     restoreChannels();
     restoreDocks();
@@ -340,7 +341,11 @@ void ActionHost::answer()
     m_answered = dialog;
     m_events.append(QStringLiteral("asks ") + dialog->windowTitle());
     const auto *box = qobject_cast<QMessageBox *>(dialog);
-    for (const auto button : {QMessageBox::NoToAll, QMessageBox::Yes, QMessageBox::Ok}) {
+    using Buttons = QList<QMessageBox::StandardButton>;
+    const Buttons answers = m_isDeclining
+                                ? Buttons{QMessageBox::Cancel, QMessageBox::No}
+                                : Buttons{QMessageBox::NoToAll, QMessageBox::Yes, QMessageBox::Ok};
+    for (const auto button : answers) {
         if (QAbstractButton *found = box ? box->button(button) : nullptr) {
             found->click();
             return;

@@ -32,7 +32,8 @@ enum class Target {
 
 /// An editor in which every action has something to do, on the second of three tabs but for one
 /// target, and what can be seen of it from outside: before and after, and what it asks and requests
-/// meanwhile. Questions are answered so that the command goes on, dialogs are left by Escape.
+/// meanwhile. Questions are answered so that the command goes on, if nothing else is said; dialogs
+/// are left by Escape.
 class ActionHost final : public QObject, public EditorFixture
 {
     Q_OBJECT
@@ -46,9 +47,13 @@ public:
 
     bool isReady() const { return m_isReady; }
 
-    /// Undoes whatever was done and shows @p target as a new host does. False if that cannot be,
-    /// because the editor or a tab has gone, or because the host would not be like a new one.
+    /// Undoes whatever was done and shows @p target as a new host does, answers included. False if
+    /// that cannot be, because the editor or a tab has gone, or because the host would not be like
+    /// a new one.
     bool show(Target target);
+
+    /// From now on questions are answered by the button that gives the command up.
+    void decline() { m_isDeclining = true; }
 
     QToolBar *toolBar() const;
     Zavo::ZvScheduleListWidget *list() const;
@@ -109,6 +114,7 @@ private:
 
     Target m_target;
     bool m_isReady = false;
+    bool m_isDeclining = false;
     State m_files;
     QByteArray m_layout;
     QPointer<Zavo::ZvScheduleWorkingArea> m_page;

@@ -143,6 +143,8 @@ private Q_SLOTS:
     void enabledStates();
     void effects_data();
     void effects();
+    void nothingHappensAfterNo_data();
+    void nothingHappensAfterNo();
     void keysAreNotShared();
     void everyKey();
     void keysOfTheRenameEditorAreItsOwn();
@@ -279,6 +281,43 @@ void tst_AllActions::effects()
             host = nullptr;
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+void tst_AllActions::nothingHappensAfterNo_data()
+{
+    enabledStates_data();
+}
+
+// But for a close, which nobody is asked about: only what is to be saved before.
+void tst_AllActions::nothingHappensAfterNo()
+{
+    QFETCH(int, activated);
+    QFETCH(int, target);
+    for (const ActionRow &row : actionTable()) {
+        const QString effect = expectedEffect(row, Activated(activated), Target(target));
+        const QString question = effect.section(QStringLiteral("; "), 0, 0);
+        const bool isClose = effect.endsWith(QLatin1String("; closed")) &&
+                             question == QLatin1String("asks Save Channel");
+        if (!question.startsWith(QLatin1String("asks ")) || isClose)
+            continue;
+        ActionHost *host = hostShowing(Target(target));
+        QVERIFY(host);
+        host->decline();
+        activate(*host, Activated(activated));
+        const ActionHost::State before = host->state();
+        host->actionOf(QString::fromUtf8(row.name))->trigger();
+        QCoreApplication::processEvents();
+        const QString changes = host->changesSince(before);
+        QString expected = question;
+        // The list shows the first schedule that is to go, and takes the default one out, before it
+        // asks.
+        if (Activated(activated) == Activated::List && Target(target) == Target::Wholly &&
+            qstrcmp(row.name, "Delete") == 0)
+            expected += QStringLiteral("; marked 3>2; shown 2031-05-06>day 5");
+        else
+            QCOMPARE(host->state(), before);
+        QCOMPARE(relevantPart(changes, row, Activated(activated)), expected);
+    }
 }
 
 // Keys that two actions have at once would reach neither.
