@@ -1083,7 +1083,7 @@ Wenn Sie sicher sind, dass das andere Programm nicht mehr läuft, weil seine Mas
         <translation>E&amp;xtras</translation>
     </message>
     <message>
-        <source>&amp;Check Data...</source>
+        <source>Check &amp;Data...</source>
         <translation>Daten &amp;prüfen...</translation>
     </message>
     <message>

@@ -1083,7 +1083,7 @@ Si vous êtes sûr que l’autre programme ne fonctionne plus, parce que sa mach
         <translation>&amp;Outils</translation>
     </message>
     <message>
-        <source>&amp;Check Data...</source>
+        <source>Check &amp;Data...</source>
         <translation>&amp;Vérifier les données...</translation>
     </message>
     <message>

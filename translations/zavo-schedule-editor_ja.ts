@@ -1074,7 +1074,7 @@ If you are sure that the other program no longer runs, because its machine was s
         <translation>ツール(&amp;T)</translation>
     </message>
     <message>
-        <source>&amp;Check Data...</source>
+        <source>Check &amp;Data...</source>
         <translation>データの検査(&amp;C)...</translation>
     </message>
     <message>

@@ -181,7 +181,7 @@ QMenu *HostWindow::createToolsMenu()
 {
     auto *const menu = new QMenu(tr("&Tools"), this);
     menu->setObjectName(QLatin1String(HostNames::toolsMenu));
-    QAction *const check = menu->addAction(tr("&Check Data..."), this, SLOT(checkData()));
+    QAction *const check = menu->addAction(tr("Check &Data..."), this, SLOT(checkData()));
     check->setObjectName(QLatin1String(HostNames::checkAction));
     check->setStatusTip(tr("Looks for what is wrong in the saved channels and their stages"));
     check->setWhatsThis(tr("Reads all channel files and the stages they use and lists what is "

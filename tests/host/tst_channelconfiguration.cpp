@@ -9,6 +9,7 @@
 #include "ChannelFiles.h"
 #include "FolderFaults.h"
 #include "MessageBoxAnswer.h"
+#include "SlowDisk.h"
 #include "TemporaryDataFolder.h"
 #include "editor/ZvScheduleEditor.h"
 
@@ -17,10 +18,13 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QtTest>
+
+#include <algorithm>
 
 using Zavo::ChannelConfigurationDialog;
 using Zavo::ChannelSettings;
@@ -47,6 +51,7 @@ private Q_SLOTS:
     void standsOddSettings();
     void tellsOfAFileThatCannotBeWritten();
     void opensWithManyChannels();
+    void showsItsProgressOnASlowDisk();
     void opensFromTheMenu();
 
 private:
@@ -224,6 +229,23 @@ void tst_ChannelConfiguration::opensWithManyChannels()
     show();
     QCOMPARE(tree()->topLevelItemCount(), 300);
     QCOMPARE(tree()->topLevelItem(299)->text(0), QStringLiteral("Ch.299"));
+}
+
+void tst_ChannelConfiguration::showsItsProgressOnASlowDisk()
+{
+    for (int number = 0; number < 40; ++number)
+        write(number, QStringLiteral("Hall"));
+    const ZavoTest::SlowDisk slow;
+    m_dialog = std::make_unique<ChannelConfigurationDialog>();
+    m_dialog->show();
+    const QList<QLabel *> labels = m_dialog->findChildren<QLabel *>();
+    const auto tells = [&labels](const QString &text) {
+        return std::any_of(labels.begin(), labels.end(),
+                           [&text](const QLabel *label) { return label->text().contains(text); });
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(tells(QStringLiteral("of 40...")), 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(tree()->topLevelItemCount(), 40, 60000);
+    QVERIFY(!tells(QStringLiteral("of 40...")));
 }
 
 void tst_ChannelConfiguration::opensFromTheMenu()

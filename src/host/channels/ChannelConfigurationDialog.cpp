@@ -21,6 +21,8 @@ enum ChannelColumn { NameColumn, NumberColumn, FileColumn, SchedulesColumn, Save
 constexpr int channelIdRole = Qt::UserRole;
 constexpr int channelsWidthInCharacters = 96;
 constexpr int channelsHeightInLines = 24;
+constexpr int readingShownAfterMs = 500;
+constexpr int readingShownEveryMs = 100;
 } // namespace
 
 ChannelConfigurationDialog::ChannelConfigurationDialog(QWidget *parent)
@@ -49,7 +51,9 @@ ChannelConfigurationDialog::ChannelConfigurationDialog(QWidget *parent)
     connect(m_overview.get(), SIGNAL(finished()), this, SLOT(onChannelsRead()),
                               Qt::QueuedConnection);
     // clang-format on
+    connect(&m_progressTimer, SIGNAL(timeout()), this, SLOT(showProgress()));
     m_overview->start();
+    m_progressTimer.start(readingShownAfterMs);
 }
 
 ChannelConfigurationDialog::~ChannelConfigurationDialog() = default;
@@ -77,6 +81,7 @@ void ChannelConfigurationDialog::accept()
 
 void ChannelConfigurationDialog::onChannelsRead()
 {
+    m_progressTimer.stop();
     m_label->setText(tr("C&hannels that are not checked stay here when the others are uploaded, "
                         "and disappear from the targets."));
     const ChannelSettings settings(ZvEditorConfig::dataDir());
@@ -88,6 +93,15 @@ void ChannelConfigurationDialog::onChannelsRead()
     for (int column = NameColumn; column < SavedColumn; ++column)
         m_tree->resizeColumnToContents(column);
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(true);
+}
+
+void ChannelConfigurationDialog::showProgress()
+{
+    m_progressTimer.start(readingShownEveryMs);
+    if (m_overview->total() > 0)
+        m_label->setText(tr("Reading the channels: %1 of %2...")
+                             .arg(m_overview->done())
+                             .arg(m_overview->total()));
 }
 
 void ChannelConfigurationDialog::createTree()

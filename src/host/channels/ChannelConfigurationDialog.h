@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
 #include <memory>
 
@@ -26,12 +27,14 @@ public:
 
 private Q_SLOTS:
     void onChannelsRead();
+    void showProgress();
 
 private:
     void createTree();
     void addLine(const ChannelLine &line, bool uploaded);
 
     std::unique_ptr<ChannelOverview> m_overview;
+    QTimer m_progressTimer;
     QLabel *m_label = nullptr;
     QTreeWidget *m_tree = nullptr;
     QDialogButtonBox *m_buttons = nullptr;

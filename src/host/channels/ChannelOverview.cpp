@@ -28,6 +28,7 @@ void ChannelOverview::run()
 {
     const QDir folder(Path::combine(m_dataDir, QStringLiteral("channel")));
     const QStringList names = folder.entryList(channelNameFilters(), QDir::Files);
+    m_total = names.size();
     for (const QString &name : names) {
         if (isInterruptionRequested())
             return;
@@ -42,6 +43,7 @@ void ChannelOverview::run()
         const QList<ZvSchedule> &schedules = channel.scheduleList();
         line.scheduleCount = schedules.size();
         m_lines.append(line);
+        ++m_done;
     }
     std::sort(m_lines.begin(), m_lines.end(), [](const ChannelLine &a, const ChannelLine &b) {
         return std::make_tuple(!a.isReadable, a.index, a.id, a.fileName) <

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QThread>
 
+#include <atomic>
+
 namespace Zavo {
 
 /// One line about a channel, as it is saved.
@@ -31,6 +33,10 @@ public:
     /// Waits for the thread, which ends behind the file that it is reading.
     ~ChannelOverview() override;
 
+    /// Files that have been read, and those there are; 0 until that is known.
+    int done() const { return m_done; }
+    int total() const { return m_total; }
+
     /// In the order of the tabs, those that cannot be read last. To be called once the thread has
     /// finished.
     const QList<ChannelLine> &lines() const { return m_lines; }
@@ -41,6 +47,8 @@ protected:
 private:
     const QString m_dataDir;
     QList<ChannelLine> m_lines;
+    std::atomic<int> m_done{0};
+    std::atomic<int> m_total{0};
 };
 
 } // namespace Zavo

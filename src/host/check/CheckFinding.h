@@ -24,6 +24,13 @@ struct CheckFinding
     QString channel;  ///< name of the channel; empty if it is not known
     QString schedule; ///< as ScheduleNames has it; empty if it is about the whole channel
     QString text;     ///< a sentence
+
+    friend bool operator==(const CheckFinding &left, const CheckFinding &right)
+    {
+        return left.kind == right.kind && left.file == right.file &&
+               left.channel == right.channel && left.schedule == right.schedule &&
+               left.text == right.text;
+    }
 };
 
 /// What a check gave.

@@ -5,8 +5,8 @@
 namespace Zavo {
 
 namespace {
-constexpr int progressDelayMs = 500;
-constexpr int progressIntervalMs = 100;
+constexpr int tellAfterMs = 500;
+constexpr int tellEveryMs = 100;
 } // namespace
 
 UploadCheck::UploadCheck(QObject *parent)
@@ -26,7 +26,7 @@ void UploadCheck::start()
     connect(m_thread.get(), SIGNAL(finished()), this,
                                    SLOT(onThreadFinished()), Qt::QueuedConnection);
     m_thread->start();
-    m_timer.start(progressDelayMs);
+    m_timer.start(tellAfterMs);
 }
 
 void UploadCheck::cancel()
@@ -48,7 +48,7 @@ void UploadCheck::onThreadFinished()
 
 void UploadCheck::tellProgress()
 {
-    m_timer.start(progressIntervalMs);
+    m_timer.start(tellEveryMs);
     if (m_thread)
         Q_EMIT progressed(m_thread->done(), m_thread->total());
 }

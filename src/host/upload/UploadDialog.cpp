@@ -1,7 +1,6 @@
 #include "upload/UploadDialog.h"
 
 #include "ZvEditorConfig.h"
-#include "check/CheckText.h"
 #include "upload/UploadButton.h"
 #include "upload/UploadCheck.h"
 #include "upload/UploadFindingsDialog.h"
@@ -41,14 +40,6 @@ QIcon iconOf(UploadJob::State state, const QStyle &style)
         break;
     }
     return {};
-}
-
-QStringList linesOf(const CheckReport &report)
-{
-    QStringList lines;
-    for (const CheckFinding &finding : report.findings)
-        lines.append(CheckText::line(finding));
-    return lines;
 }
 
 QProgressBar *createProgressBar(const QString &address)
@@ -154,8 +145,8 @@ void UploadDialog::onChecked()
         return;
     }
     // What was accepted before is not asked about again at a retry.
-    const bool isAccepted = linesOf(report) == m_findings;
-    m_findings = linesOf(report);
+    const bool isAccepted = report.findings == m_findings;
+    m_findings = report.findings;
     if (report.findings.isEmpty() || isAccepted)
         start();
     else

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "check/CheckFinding.h"
 #include "upload/UploadTargets.h"
 
 #include <QDialog>
 #include <QList>
 #include <QPointer>
-#include <QStringList>
+#include <QVector>
 
 class QLabel;
 class QPushButton;
@@ -13,7 +14,6 @@ class QTreeWidgetItem;
 
 namespace Zavo {
 
-struct CheckReport;
 class UploadCheck;
 class UploadFindingsDialog;
 class UploadRun;
@@ -72,7 +72,7 @@ private:
     UploadCheck *m_check = nullptr;
     QPointer<UploadFindingsDialog> m_question; // null while nothing is asked
     QList<UploadTarget> m_wanted;              // of the upload that is being checked
-    QStringList m_findings;                    // that the user accepted
+    QVector<CheckFinding> m_findings;          // that the user accepted
     UploadTargetList *m_list = nullptr;
     QLabel *m_summary = nullptr;
     QPushButton *m_upload = nullptr;

@@ -1,5 +1,6 @@
 #include "upload/UploadRun.h"
 
+#include "check/CheckText.h"
 #include "safety/BackupStore.h"
 #include "upload/FolderRemoval.h"
 #include "upload/UploadCollection.h"
@@ -52,7 +53,7 @@ int UploadRun::count(UploadJob::State state) const
                       [state](const UploadJob *job) { return job->state() == state; }));
 }
 
-void UploadRun::start(const QList<UploadTarget> &targets, const QStringList &findings)
+void UploadRun::start(const QList<UploadTarget> &targets, const QVector<CheckFinding> &findings)
 {
     m_log.begin();
     const QLocale plain(QLocale::C);
@@ -60,9 +61,7 @@ void UploadRun::start(const QList<UploadTarget> &targets, const QStringList &fin
                     .arg(plain.toString(QDateTime::currentDateTime(),
                                         QStringLiteral("yyyy-MM-dd hh:mm:ss")),
                          QDir::toNativeSeparators(m_dataDir)));
-    if (!findings.isEmpty())
-        m_log.write(tr("The check found %n thing(s):", nullptr, findings.size()));
-    m_log.writeDetails(findings.mid(0, mostFindings));
+    logFindings(findings);
     const auto store = std::make_shared<BackupStore>(m_dataDir);
     for (const UploadTarget &target : targets) {
         auto *const job = new UploadJob(target, store, this);
@@ -138,6 +137,18 @@ void UploadRun::startJobs()
         m_log.write(tr("%1: begins").arg(job->target().address()));
         job->start(m_set);
     }
+}
+
+void UploadRun::logFindings(const QVector<CheckFinding> &findings)
+{
+    if (findings.isEmpty())
+        return;
+    m_log.write(tr("The check found %n thing(s):", nullptr, findings.size()));
+    QStringList lines;
+    const QVector<CheckFinding> first = findings.mid(0, mostFindings);
+    for (const CheckFinding &finding : first)
+        lines.append(CheckText::line(finding));
+    m_log.writeDetails(lines);
 }
 
 void UploadRun::logSet()

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "check/CheckFinding.h"
 #include "upload/UploadJob.h"
 #include "upload/UploadLog.h"
 #include "upload/UploadSet.h"
 
 #include <QList>
 #include <QObject>
+#include <QVector>
 
 namespace Zavo {
 
@@ -39,9 +41,8 @@ public:
     QString logFile() const { return m_log.filePath(); }
     bool isLogWhole() const { return m_log.isWhole(); }
 
-    /// To be called once, with at least one target. @p findings are lines about the data for the
-    /// log.
-    void start(const QList<UploadTarget> &targets, const QStringList &findings = {});
+    /// To be called once, with at least one target. @p findings are put into the log.
+    void start(const QList<UploadTarget> &targets, const QVector<CheckFinding> &findings = {});
 
 public Q_SLOTS:
     /// Cancels what can be cancelled; finished() follows.
@@ -61,6 +62,7 @@ private Q_SLOTS:
 
 private:
     void startJobs();
+    void logFindings(const QVector<CheckFinding> &findings);
     void logSet();
     void logResult(const UploadJob &job);
 
