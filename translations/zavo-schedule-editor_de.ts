@@ -358,6 +358,10 @@
         <source>The basic channel is always uploaded.</source>
         <translation>Der Basiskanal wird immer hochgeladen.</translation>
     </message>
+    <message>
+        <source>Reading the channels: %1 of %2...</source>
+        <translation>Die Kanäle werden gelesen: %1 von %2...</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ChannelCreation</name>

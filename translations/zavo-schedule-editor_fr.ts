@@ -358,6 +358,10 @@
         <source>The basic channel is always uploaded.</source>
         <translation>Le canal de base est toujours envoyé.</translation>
     </message>
+    <message>
+        <source>Reading the channels: %1 of %2...</source>
+        <translation>Lecture des canaux&#xa0;: %1 sur %2...</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ChannelCreation</name>

@@ -357,6 +357,10 @@
         <source>The basic channel is always uploaded.</source>
         <translation>基本チャンネルは常にアップロードされます。</translation>
     </message>
+    <message>
+        <source>Reading the channels: %1 of %2...</source>
+        <translation>チャンネルを読み込んでいます: %1 / %2...</translation>
+    </message>
 </context>
 <context>
     <name>Zavo::ChannelCreation</name>
