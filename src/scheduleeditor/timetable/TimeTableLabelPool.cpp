@@ -20,8 +20,20 @@ TimeTableLabelPool::TimeTableLabelPool(QObject *parent)
 
 TimeTableLabelPool::~TimeTableLabelPool()
 {
+    deleteKept();
+}
+
+void TimeTableLabelPool::deleteKept()
+{
     for (const auto &label : m_labels)
         delete label.second;
+    m_labels.clear();
+}
+
+void TimeTableLabelPool::empty()
+{
+    if (TimeTableLabelPool *pool = instance())
+        pool->deleteKept();
 }
 
 TimeTableLabelPool *TimeTableLabelPool::instance()

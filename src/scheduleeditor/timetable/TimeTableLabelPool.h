@@ -30,6 +30,9 @@ public:
     /// Takes @p label over, out of its parent and its scene. Without an application, or when enough
     /// labels are kept, it is deleted.
     static void give(ZvTimeTableTimeItemLabel *label);
+    /// Deletes what is kept. A label remembers every view that it was painted in, so that it would
+    /// grow with the pages that come and go.
+    static void empty();
 
 private:
     explicit TimeTableLabelPool(QObject *parent);
@@ -37,6 +40,7 @@ private:
     static TimeTableLabelPool *instance();
     ZvTimeTableTimeItemLabel *takeKept(const QString &text, bool orAny);
     void keep(ZvTimeTableTimeItemLabel *label);
+    void deleteKept();
 
     /// Of the standard library: any one of its elements is found at once, however many went.
     std::unordered_multimap<QString, ZvTimeTableTimeItemLabel *> m_labels;

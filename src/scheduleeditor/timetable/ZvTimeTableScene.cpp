@@ -3,6 +3,7 @@
 #include "timetable/BandMotion.h"
 #include "timetable/TimeAxis.h"
 #include "timetable/TimeTableAccessibility.h"
+#include "timetable/TimeTableLabelPool.h"
 #include "timetable/ZvTimeTableBaseItem.h"
 #include "timetable/ZvTimeTableTimeItem.h"
 #include "timetable/ZvTimeTableTimeItemResizeHandle.h"
@@ -47,6 +48,8 @@ ZvTimeTableScene::~ZvTimeTableScene()
 {
     // The selection empties while the items go; nobody is to be told of it any more.
     disconnect(this, SIGNAL(selectionChanged()), nullptr, nullptr);
+    clear();
+    TimeTableLabelPool::empty();
 }
 
 void ZvTimeTableScene::setBaseItem(ZvTimeTableBaseItem *baseItem)
