@@ -60,7 +60,8 @@ constexpr char renameCommand[] = "Action_Rename_Channel";
 
 const char *reasonOf(int key, int modifiers, const QString &commandId)
 {
-    const bool isPlain = (modifiers & ~static_cast<int>(Qt::SHIFT | Qt::KeypadModifier)) == 0;
+    const bool isPlain =
+        (modifiers & ~static_cast<int>(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
     const auto *const reserved = std::find_if(
         std::begin(reservedKeys), std::end(reservedKeys), [key, isPlain](const ReservedKey &row) {
             return row.key == key && (row.withAnyModifier || isPlain);

@@ -54,7 +54,7 @@ Shortcuts::Shortcuts(const QMainWindow *window)
             collect(menu->actions(), menu->objectName(), MenuText::plain(menu->title()));
     }
     // It is in no menu of the bar, and its key works everywhere in the window.
-    QAction *const newSchedule =
+    auto *const newSchedule =
         window->findChild<QAction *>(QLatin1String(HostNames::newScheduleAction));
     const auto *const dock =
         window->findChild<const QDockWidget *>(QLatin1String(HostNames::scheduleListDock));

@@ -23,6 +23,8 @@ ZvCalendarWidget *calendarOf(const QTableView *view)
 /// A place on the page; which date stands there is looked up when it is asked for.
 class AccessibleCalendarCell final : public QAccessibleInterface, public QAccessibleActionInterface
 {
+    Q_DISABLE_COPY(AccessibleCalendarCell)
+
 public:
     AccessibleCalendarCell(QTableView *view, int row, int column)
         : m_view(view)
@@ -175,7 +177,7 @@ protected:
 private:
     QTableView *view() const { return qobject_cast<QTableView *>(object()); }
     int rows() const { return calendarOf(view()) ? view()->model()->rowCount() + 1 : 0; }
-    int columns() const { return calendarOf(view()) ? view()->model()->columnCount() + 1 : 0; }
+    int columns() const { return calendarOf(view()) ? view()->model()->columnCount() + 1 : 1; }
     QAccessibleInterface *cellAt(const QModelIndex &index) const
     {
         return index.isValid() ? child((index.row() + 1) * columns() + index.column() + 1)
