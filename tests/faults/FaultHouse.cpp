@@ -16,11 +16,11 @@
 #include "timetable/ZvScheduleWorkingArea.h"
 #include "workspace/ChannelFolder.h"
 #include "workspace/ZvScheduleMainWidget.h"
-#include "workspace/ZvScheduleTabWidget.h"
 
 #include <QAction>
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QElapsedTimer>
 
 #include <sys/stat.h>
@@ -133,25 +133,34 @@ std::optional<ChannelsById> FaultHouse::freshStart() const
     return channels;
 }
 
+QStringList FaultHouse::leftovers() const
+{
+    Leftovers::sweep(m_folder.path());
+    QStringList found;
+    QDirIterator files(m_folder.path(), {QStringLiteral(".zavo-*.tmp")}, QDir::Files | QDir::Hidden,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+        found.append(files.next());
+    return found;
+}
+
 bool FaultHouse::open()
 {
     close();
     m_isFinished = false;
+    m_hasTabs = false;
     m_window = std::make_unique<HostWindow>();
     connect(m_window.get(), SIGNAL(finished()), this, SLOT(onFinished()));
     QString message;
     if (!m_window->start(&message))
         return false;
+    connect(main(), SIGNAL(tabsCreated(QList<ZvChannel*>)), this, SLOT(onTabsCreated()));
     m_window->show();
     QElapsedTimer time;
     time.start();
-    while (!m_isFinished && time.elapsed() < LongestStartMs) {
+    while (!m_isFinished && !m_hasTabs && time.elapsed() < LongestStartMs)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        const auto *const tabs = m_window->findChild<ZvScheduleTabWidget *>();
-        if (tabs && tabs->count() > 0)
-            return true;
-    }
-    return false;
+    return m_hasTabs;
 }
 
 void FaultHouse::close()

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QMap>
 #include <QObject>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -54,6 +55,9 @@ public:
     /// the first channels into an empty folder, as it does.
     std::optional<ChannelsById> freshStart() const;
 
+    /// Hidden files of saves that are still there after the sweep.
+    QStringList leftovers() const;
+
     /// Starts the window; false if it ends at once. Runs the event loop until the tabs are there.
     bool open();
     bool isOpen() const { return m_window != nullptr && !m_isFinished; }
@@ -84,6 +88,7 @@ public:
 
 private Q_SLOTS:
     void onFinished() { m_isFinished = true; }
+    void onTabsCreated() { m_hasTabs = true; }
 
 private:
     void makeSample();
@@ -95,6 +100,7 @@ private:
     std::unique_ptr<Zavo::SafetyNet> m_net;
     std::unique_ptr<Zavo::SafetyDesk> m_desk;
     bool m_isFinished = false;
+    bool m_hasTabs = false; // perhaps none, if no channel can be read
 };
 
 } // namespace ZavoTest

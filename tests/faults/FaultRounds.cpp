@@ -118,6 +118,9 @@ bool FaultRounds::run(const Operation &operation, uid_t user, const FaultPlan &p
         wrong = QStringLiteral("it was killed by somebody");
     if (wrong.isEmpty())
         wrong = operation.check(outcome, *m_house);
+    if (wrong.isEmpty() && !m_house->leftovers().isEmpty())
+        wrong =
+            QStringLiteral("files are left over: ") + m_house->leftovers().join(QLatin1Char(' '));
     if (!wrong.isEmpty()) {
         ++m_failures;
         std::fprintf(m_log, "%s, %s (%s, %s thread, user %u): %s\n", qPrintable(operation.name),

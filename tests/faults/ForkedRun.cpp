@@ -13,7 +13,7 @@ namespace ZavoTest {
 
 namespace {
 
-constexpr unsigned LongestWorkSeconds = 60;
+constexpr unsigned LongestWorkSeconds = 120;
 
 void become(uid_t user)
 {

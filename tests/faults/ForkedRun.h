@@ -18,7 +18,7 @@ public:
     using Report = std::function<void(const QString &line)>;
     using Work = std::function<void(const Report &report)>;
 
-    /// Starts the work as @p user, if this process may choose; it ends itself after a minute.
+    /// Starts the work as @p user, if this process may choose; it ends itself after two minutes.
     ForkedRun(uid_t user, const Work &work);
     ~ForkedRun();
 
