@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdarg>
 #include <cstring>
+#include <random>
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -53,10 +54,18 @@ void watch(int file, bool on)
         s_watched[static_cast<size_t>(file)] = on;
 }
 
+void pause()
+{
+    thread_local std::minstd_rand random(static_cast<unsigned>(getpid()));
+    usleep(static_cast<useconds_t>(random() % s_plan.longestPauseUs));
+}
+
 /// True, with errno set, if the call is to fail. @p beforeKill does what the call had done by then.
 template<typename BeforeKill>
 bool strikes(const char *call, bool watched, BeforeKill beforeKill)
 {
+    if (watched && s_active && s_plan.longestPauseUs > 0)
+        pause();
     const bool isOurs = s_isPlanner == (s_plan.thread == FaultPlan::Thread::Gui);
     if (!watched || !s_active || !isOurs)
         return false;

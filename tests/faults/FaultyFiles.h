@@ -16,6 +16,7 @@ struct FaultPlan
     int number = 1;      ///< the first call that goes wrong, counted from 1
     bool lasts = false;  ///< all calls after it go wrong, too
     Thread thread = Thread::Gui;
+    unsigned longestPauseUs = 0; ///< before every call of any thread, so that programs meet
 };
 
 /// The calls on files of this program and of the libraries it uses. They are the system's own, but

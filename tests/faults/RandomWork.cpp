@@ -1,6 +1,7 @@
 #include "RandomWork.h"
 
 #include "BoxClerk.h"
+#include "FaultyFiles.h"
 #include "ForkedRun.h"
 
 #include "domain/ActionNames.h"
@@ -18,6 +19,7 @@ namespace ZavoTest {
 namespace {
 
 constexpr int LongestLifeMs = 60;
+constexpr unsigned LongestPauseUs = 300;
 constexpr int SavesOfAMeeting = 9; // of two programs together fewer than copies are kept
 
 const QLatin1String SavedWord("saved ");
@@ -186,6 +188,10 @@ void RandomWork::meetOnce(int round)
     const auto program = [this](const QString &prefix) {
         const unsigned seed = static_cast<unsigned>(m_random());
         return [this, prefix, seed](const ForkedRun::Report &report) {
+            FaultPlan plan;
+            plan.folder = m_house->dataDir();
+            plan.longestPauseUs = LongestPauseUs;
+            FaultyFiles::begin(plan);
             m_house->startSafety();
             Worker(m_house, prefix, seed, report).run(SavesOfAMeeting);
             m_house->endSafety();
