@@ -38,6 +38,7 @@ private Q_SLOTS:
     void nothingWithoutATab();
     void droppedStage();
     void droppedStageBetweenTheSeconds();
+    void moveAtTheEndOfTheDay();
     void draggedBand();
     void keyMove();
     void partialMoveIsNoStep();
@@ -126,6 +127,33 @@ void tst_ScheduleRecorder::droppedStageBetweenTheSeconds()
             tabs.first()->storeCurrentSchedule();
         }
     }
+}
+
+// Of several stages that are dropped on the last seconds all but the first have no length.
+void tst_ScheduleRecorder::moveAtTheEndOfTheDay()
+{
+    const TwoTabs tabs;
+    tabs.first()->switchToScheduleInfo(defaultInfo, false);
+    const QString name = QStringLiteral("x.xml");
+    const ZvTimeTableTimeZoneItem *strip = tabs.scene()->timeZoneItem();
+    QCOMPARE(
+        tabs.scene()->timeZoneItem()->insertStages(QTime(23, 59, 53), {name, name, name}).size(),
+        3);
+    QTest::keyClick(tabs.view(), Qt::Key_Up);
+    tabs.view()->completeMove();
+    // What is shown again stands on the second.
+    tabs.first()->switchToScheduleInfo(mondayInfo, false);
+    tabs.first()->switchToScheduleInfo(defaultInfo, false);
+    tabs.select({2, 3, 4});
+    QTest::keyClick(tabs.view(), Qt::Key_Down);
+    tabs.view()->completeMove();
+    QCOMPARE(disorderOf(strip), QString());
+    const QList<ZvTime> times = tabs.first()->currentTimes();
+    for (int i = 1; i < times.size(); ++i)
+        QVERIFY(times.at(i).startTime() >= times.at(i - 1).startTime());
+    while (tabs.first()->undoStack()->canUndo())
+        tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentTimes(), otherBands);
 }
 
 void tst_ScheduleRecorder::draggedBand()

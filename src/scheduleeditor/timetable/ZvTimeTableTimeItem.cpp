@@ -178,7 +178,9 @@ void ZvTimeTableTimeItem::updateTimeInfo()
         return;
     const double startMs =
         y() * TimeAxis::millisecondsPerUnit - m_topMargin * TimeAxis::millisecondsPerUnit;
-    const QTime start = QTime(0, 0).addMSecs(static_cast<int>(startMs));
+    // A band without length can stand at 24 o'clock itself, which is no midnight.
+    const int lastMs = TimeAxis::millisecondsPerDay - 1;
+    const QTime start = QTime(0, 0).addMSecs(qMin(static_cast<int>(startMs), lastMs));
     const int length = static_cast<int>(m_itemHeight * TimeAxis::millisecondsPerUnit);
     QTime end = start.addMSecs(length);
     // A band that reaches 24 o'clock wraps to midnight here; one without length ends where it
