@@ -21,6 +21,8 @@ if [[ "$group" == test || "$group" == lint ]]; then
   openssh-client openssh-server
     # A display for the test that copies from one program to another.
     xvfb
+  # Presses keys in a program on that display.
+  xdotool
     # Make the packages, look at them and at what goes along with the program, and install it.
     hicolor-icon-theme file dpkg-dev fakeroot lintian desktop-file-utils appstream mandoc doxygen
   )

@@ -1,9 +1,11 @@
 #include "TemporaryDataFolder.h"
+#include "VirtualDisplay.h"
 
 #include <QDir>
 #include <QImage>
 #include <QLockFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QtTest>
 
 using ZavoTest::TemporaryDataFolder;
@@ -45,6 +47,7 @@ private Q_SLOTS:
     void tellsOfAScreenshotThatCannotBeWritten();
     void needsADisplayForItsWindow();
     void leavesAFolderThatIsInUse();
+    void asksAboutAFolderInUse();
     void endsProperly();
     void tellsOfASessionThatDidNotEnd();
     void checksWithoutADisplay_data();
@@ -329,6 +332,57 @@ void tst_Program::leavesAFolderThatIsInUse()
         QCOMPARE(m_folder->names(), QStringList(QStringLiteral(".zavo-lock")));
     }
     QCOMPARE(run(arguments).exitCode, 0);
+}
+
+void tst_Program::asksAboutAFolderInUse()
+{
+    for (const auto *program : {"Xvfb", "xdotool"}) {
+        if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty())
+            QSKIP("this machine has no display to show the program on");
+    }
+    const ZavoTest::VirtualDisplay display;
+    QVERIFY(!display.name().isEmpty());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    environment.insert(QStringLiteral("DISPLAY"), display.name());
+    const auto press = [&environment](const QString &window, const QString &key) {
+        QProcess keyboard;
+        keyboard.setProcessEnvironment(environment);
+        keyboard.start(QStringLiteral("xdotool"),
+                       {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                        QStringLiteral("--name"), window, QStringLiteral("windowfocus"),
+                        QStringLiteral("key"), key});
+        return keyboard.waitForFinished(60000) && keyboard.exitCode() == 0;
+    };
+    m_folder->copyFrom(QStringLiteral(ZAVO_SOURCE_DIR "/examples/data"));
+    QLockFile other(m_folder->filePath(QStringLiteral(".zavo-lock")));
+    other.setStaleLockTime(0);
+    QVERIFY(other.lock());
+    const QString box = QStringLiteral("^Zavo Schedule Editor$");
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    const auto start = [&] {
+        program.start(QStringLiteral(ZAVO_PROGRAM), {QStringLiteral("--data-dir"), data()});
+    };
+    const auto hasEnded = [&program] { return program.state() == QProcess::NotRunning; };
+    // Nobody else's folder is touched by one who leaves.
+    const QStringList before = m_folder->names();
+    start();
+    QTRY_VERIFY_WITH_TIMEOUT((press(box, QStringLiteral("Escape")), hasEnded()), 60000);
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 3);
+    QCOMPARE(m_folder->names(), before);
+
+    // Once the other has gone, it opens.
+    start();
+    QTRY_VERIFY_WITH_TIMEOUT(press(box, QStringLiteral("Shift_L")), 60000);
+    other.unlock();
+    const QString window = QStringLiteral(". - Zavo Schedule Editor$");
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (press(box, QStringLiteral("Return")), press(window, QStringLiteral("Shift_L"))), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT((press(window, QStringLiteral("ctrl+q")), hasEnded()), 60000);
+    QCOMPARE(program.exitCode(), 0);
+    QVERIFY(!m_folder->names().contains(QStringLiteral(".zavo-lock")));
 }
 
 void tst_Program::endsProperly()

@@ -1,4 +1,5 @@
 #include "ClipboardPage.h"
+#include "VirtualDisplay.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -12,38 +13,6 @@ using namespace ZavoTest;
 namespace {
 
 constexpr int patienceMs = 60000;
-
-/// A display of our own, without a screen.
-class VirtualDisplay final
-{
-public:
-    VirtualDisplay()
-    {
-        m_server.start(QStringLiteral("Xvfb"),
-                       {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                        QStringLiteral("-screen"), QStringLiteral("0"),
-                        QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"),
-                        QStringLiteral("tcp")});
-        while (!m_server.canReadLine() && m_server.waitForReadyRead(patienceMs)) {
-        }
-        const QString number = QString::fromLatin1(m_server.readLine()).trimmed();
-        if (!number.isEmpty())
-            m_name = QLatin1Char(':') + number;
-    }
-    Q_DISABLE_COPY(VirtualDisplay)
-    ~VirtualDisplay()
-    {
-        m_server.terminate();
-        m_server.waitForFinished();
-    }
-
-    /// Empty if there is no display.
-    QString name() const { return m_name; }
-
-private:
-    QProcess m_server;
-    QString m_name;
-};
 
 /// Another run of this program, which shows a page on the display.
 class PageProcess final
