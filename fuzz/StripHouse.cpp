@@ -20,6 +20,33 @@ using namespace Zavo;
 
 namespace ZavoFuzz {
 
+namespace {
+
+bool hasNoLength(const ZvTime &time)
+{
+    return time.startTime().msecsTo(time.endTime()) <= ZvTime::ToleranceMs;
+}
+
+// Bands without length at one moment have no order among them.
+QList<ZvTime> inOneOrder(QList<ZvTime> times)
+{
+    for (int i = 1; i < times.size(); ++i) {
+        for (int j = i; j > 0; --j) {
+            const ZvTime &left = times.at(j - 1);
+            const ZvTime &right = times.at(j);
+            const bool areAtOneMoment =
+                hasNoLength(left) && hasNoLength(right) &&
+                left.startTime().msecsTo(right.startTime()) <= ZvTime::ToleranceMs;
+            if (!areAtOneMoment || left.stageName() <= right.stageName())
+                break;
+            times.swapItemsAt(j - 1, j);
+        }
+    }
+    return times;
+}
+
+} // namespace
+
 OnePage::OnePage(ZvChannel *channel)
     : m_area(new ZvScheduleWorkingArea(channel, this))
 {
@@ -106,6 +133,8 @@ ZvChannel StripHouse::content() const
     const QList<ZvSchedule> &list = content.scheduleList();
     if (!list.isEmpty() && list.first().type() == ZvSchedule::Default && list.first().isEmpty())
         content.removeSchedule(ZvSchedule(list.first()));
+    for (const ZvSchedule &schedule : list)
+        schedule.timeList() = inOneOrder(schedule.timeList());
     return content;
 }
 

@@ -24,7 +24,7 @@ fuzz_target() {
   local name=$1 log=$build/$1.log
   local kept=fuzz/corpus/$name new=$build/corpus/$name
   mkdir -p "$new"
-  if "$build/fuzz/$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=512 -max_len=4096 \
+  if "$build/fuzz/$name" -seed="$seed" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=512 -max_len=4096 \
     -use_value_profile=1 -print_final_stats=1 -artifact_prefix="$build/found/$name-" \
     "$new" "$kept" >"$log" 2>&1; then
     echo "$name: $(sed -n 's/^stat::\(number_of_executed_units\|slowest_unit_time_sec\|peak_rss_mb\): */ /p' \
@@ -36,7 +36,10 @@ fuzz_target() {
   fi
 }
 export -f fuzz_target
-export build seconds
+# A short run makes the same inputs every time, a long one others.
+seed=0
+[[ $seconds -gt 60 ]] || seed=1
+export build seconds seed
 # Fonts and the styles of Qt are never given back.
 export ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=32 UBSAN_OPTIONS=print_stacktrace=1
 export LC_ALL=C.UTF-8 HOME=$build/run XDG_RUNTIME_DIR=$build/run XDG_CONFIG_HOME=$build/run
