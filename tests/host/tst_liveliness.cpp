@@ -126,7 +126,7 @@ void tst_Liveliness::initTestCase()
     m_folder->writeStage(QStringLiteral("a.xml"));
     QByteArray days;
     for (int i = 0; i < schedulesOfAChannel; ++i) {
-        days += "<Schedule type=\"date\" date=\"" +
+        days += R"(<Schedule type="date" date=")" +
                 QDate::currentDate().addDays(i).toString(Qt::ISODate).toLatin1() + "\">";
         for (int hour = 0; hour < 24; ++hour)
             days += QStringLiteral("<Time stage=\"a.xml\" start=\"%1:00:00.000\" "
@@ -137,7 +137,7 @@ void tst_Liveliness::initTestCase()
     }
     for (int number = 0; number < channelCount; ++number) {
         const QByteArray digits = QByteArray::number(number);
-        const QByteArray channel = "<?xml version=\"1.0\"?><Channel version=\"1\" name=\"Hall " +
+        const QByteArray channel = R"(<?xml version="1.0"?><Channel version="1" name="Hall )" +
                                    digits + "\" id=\"" + digits + "\" index=\"" + digits + "\">" +
                                    days + "</Channel>";
         const QString name = ZavoTest::channelFileName(number);

@@ -18,7 +18,6 @@ using Zavo::BackupDialog;
 using Zavo::BackupState;
 using Zavo::BackupStore;
 using Zavo::SafetyDesk;
-using Zavo::UploadJob;
 using Zavo::UploadRun;
 using Zavo::UploadTarget;
 using ZavoTest::filesBelow;
