@@ -58,7 +58,7 @@ void RulerLines::paint(QPainter *painter, const TimeTableRuler &ruler, int width
 
 bool RulerLines::canCopy(const QPainter &painter, int width)
 {
-    const QTransform toDevice = painter.deviceTransform();
+    const QTransform &toDevice = painter.deviceTransform();
     return toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0.0 &&
            width * toDevice.m11() <= mostKeptWidth && isWhole(toDevice.m22()) &&
            isWhole(toDevice.dx()) && isWhole(toDevice.dy());
