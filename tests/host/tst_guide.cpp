@@ -1,3 +1,4 @@
+#include "ClearButton.h"
 #include "HostWindow.h"
 #include "TemporaryDataFolder.h"
 #include "guide/GuideBrowser.h"
@@ -105,6 +106,7 @@ void tst_Guide::cleanupTestCase()
     m_window.reset();
     QVERIFY(!m_dialog);
     m_folder.reset();
+    ZavoTest::waitForClearButtons();
 }
 
 void tst_Guide::clickLink(const QString &target) const

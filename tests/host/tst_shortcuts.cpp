@@ -2,6 +2,7 @@
 #include "shortcuts/Shortcuts.h"
 
 #include "ChannelFiles.h"
+#include "ClearButton.h"
 #include "DialogAnswer.h"
 #include "HostWindow.h"
 #include "TemporaryDataFolder.h"
@@ -93,6 +94,7 @@ class tst_Shortcuts : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
+    void cleanupTestCase();
     void listsEveryCommand();
     void showsKeysAndDefaults();
     void typedKeysWork();
@@ -140,6 +142,11 @@ void tst_Shortcuts::cleanup()
     m_window.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_folder.reset();
+}
+
+void tst_Shortcuts::cleanupTestCase()
+{
+    ZavoTest::waitForClearButtons();
 }
 
 void tst_Shortcuts::startAnew()
