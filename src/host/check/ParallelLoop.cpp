@@ -1,5 +1,7 @@
 #include "check/ParallelLoop.h"
 
+#include "Calendars.h"
+
 #include <QThread>
 #include <QThreadPool>
 
@@ -15,6 +17,7 @@ void runInParallel(int count, const std::function<void(int)> &work,
         for (int number = next++; number < count && !isCancelled(); number = next++)
             work(number);
     };
+    makeCalendars();
     // A pool of its own: the global one may be busy with what waits for this very result.
     QThreadPool pool;
     const int helpers = qMin(count, QThread::idealThreadCount()) - 1;

@@ -1,5 +1,6 @@
 #include "safety/BackupStore.h"
 
+#include "Calendars.h"
 #include "Path.h"
 #include "ZvNaturalOrder.h"
 #include "storage/BoundedFile.h"
@@ -11,6 +12,8 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
+#include <cstdio>
 #include <functional>
 
 #include <fcntl.h>
@@ -60,23 +63,52 @@ bool hasBytes(const QString &path, const QByteArray &bytes)
            BoundedFile::read(path, ChannelFile::MaximumBytes, &read) && read == bytes;
 }
 
-/// Under the name that was chosen, or one a moment later if another program has just taken it.
-bool putInPlace(QFile *file, const QString &path)
+/// False, with the reason in errno, if it was not possible; EEXIST if the name is taken. QFile
+/// would then copy over the file of that name.
+bool renameWithoutReplacing(const QString &path, const QString &newPath)
+{
+    const QByteArray from = QFile::encodeName(path);
+    const QByteArray to = QFile::encodeName(newPath);
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    // Some file systems of other makers and of the network do not know that.
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    if (::link(from.constData(), to.constData()) == 0) {
+        ::unlink(from.constData());
+        return true;
+    }
+    if (errno == EEXIST)
+        return false;
+    if (QFile::exists(newPath)) {
+        errno = EEXIST;
+        return false;
+    }
+    return ::rename(from.constData(), to.constData()) == 0;
+}
+
+/// Under the name of that moment, or of a later one if another program has just taken it.
+bool putInPlace(const QString &incoming, const QString &folder, QDateTime moment,
+                QLatin1String suffix)
 {
     constexpr int maximumTries = 100;
-    const QFileInfo info(path);
-    const QLatin1String suffix = path.endsWith(targetCopySuffix) ? targetCopySuffix : copySuffix;
-    QDateTime moment = momentOf(info.fileName(), suffix);
     for (int tries = 0; tries < maximumTries; ++tries) {
         const QString name = copyNameOf(moment, suffix);
-        const QString next = Path::combine(info.path(), name);
-        if (file->rename(next))
+        if (renameWithoutReplacing(incoming, Path::combine(folder, name)))
             return true;
-        if (!QFile::exists(next))
+        if (errno != EEXIST)
             return false;
         moment = moment.addMSecs(1);
     }
     return false;
+}
+
+/// Later than every other, also if the clock was put back.
+QDateTime momentOfNext(const QStringList &copies, QLatin1String suffix)
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const QDateTime last = momentOf(copies.value(0), suffix);
+    return last.isValid() ? qMax(now, last.addMSecs(1)) : now;
 }
 
 } // namespace
@@ -84,6 +116,7 @@ bool putInPlace(QFile *file, const QString &path)
 BackupStore::BackupStore(const QString &dataDir)
     : m_folder(QDir(Path::combine(dataDir, backupFolderName)).absolutePath())
 {
+    makeCalendars();
 }
 
 QStringList BackupStore::fileNames() const
@@ -160,7 +193,7 @@ BackupStore::Result BackupStore::keepFromTarget(const QString &fileName, const Q
     });
     if (isKnown)
         return Result::Unchanged;
-    if (!write(pathOfNext(fileName, copies, targetCopySuffix), bytes, {modified, {}}))
+    if (!write(folder, copies, targetCopySuffix, bytes, {modified, {}}))
         return Result::Failed;
     removeBehind(MaximumTargetStates, fileName, copiesOf(fileName, targetCopySuffix));
     return Result::Kept;
@@ -209,7 +242,7 @@ BackupStore::Result BackupStore::keepState(const QString &fileName, const QByteA
     });
     if (same != copies.cend() && same == copies.cbegin())
         return Result::Unchanged;
-    if (!write(pathOfNext(fileName, copies, copySuffix), bytes, origin))
+    if (!write(folder, copies, copySuffix, bytes, origin))
         return Result::Failed;
     if (same != copies.cend())
         QFile::remove(Path::combine(folder, *same));
@@ -217,28 +250,22 @@ BackupStore::Result BackupStore::keepState(const QString &fileName, const QByteA
     return Result::Kept;
 }
 
-// Later than every other, also if the clock was put back.
-QString BackupStore::pathOfNext(const QString &fileName, const QStringList &copies,
-                                QLatin1String suffix) const
+bool BackupStore::write(const QString &folder, const QStringList &copies, QLatin1String suffix,
+                        const QByteArray &bytes, const Origin &origin)
 {
-    QDateTime moment = QDateTime::currentDateTimeUtc();
-    if (!copies.isEmpty())
-        moment = qMax(moment, momentOf(copies.constFirst(), suffix).addMSecs(1));
-    return Path::combine(folderOf(fileName), copyNameOf(moment, suffix));
-}
-
-bool BackupStore::write(const QString &path, const QByteArray &bytes, const Origin &origin)
-{
-    QFile file(Path::combine(QFileInfo(path).path(), incomingName()));
+    QFile file(Path::combine(folder, incomingName()));
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
                          file.write(bytes) == bytes.size() && file.flush() &&
                          file.setFileTime(origin.modified, QFileDevice::FileModificationTime) &&
                          (!origin.permissions || file.setPermissions(origin.permissions));
-    const QString reason = file.errorString();
+    QString reason = file.errorString();
     file.close();
-    if (written && file.error() == QFileDevice::NoError && putInPlace(&file, path))
-        return true;
-    fail(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), reason));
+    if (written && file.error() == QFileDevice::NoError) {
+        if (putInPlace(file.fileName(), folder, momentOfNext(copies, suffix), suffix))
+            return true;
+        reason = qt_error_string(errno);
+    }
+    fail(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(folder), reason));
     file.remove();
     return false;
 }

@@ -89,9 +89,9 @@ private:
     QString folderOf(const QString &fileName) const;
     QStringList copiesOf(const QString &fileName, QLatin1String suffix) const;
     QStringList ownCopiesOf(const QString &fileName) const;
-    QString pathOfNext(const QString &fileName, const QStringList &copies,
-                       QLatin1String suffix) const;
-    bool write(const QString &path, const QByteArray &bytes, const Origin &origin);
+    /// As the newest of the copies with that suffix.
+    bool write(const QString &folder, const QStringList &copies, QLatin1String suffix,
+               const QByteArray &bytes, const Origin &origin);
     void removeBehind(int count, const QString &fileName, const QStringList &copies) const;
     Result fail(const QString &reason);
 
