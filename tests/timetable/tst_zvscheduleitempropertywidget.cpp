@@ -390,6 +390,11 @@ void tst_ZvScheduleItemPropertyWidget::atTheEndsOfTheDay()
     TimeBoxes::turnWheel(fixture.end().minute(), 1);
     QCOMPARE(fixture.times(), QStringLiteral("20:0:0-24:0:0"));
     TimeBoxes::turnWheel(fixture.end().second(), -1);
+    QCOMPARE(fixture.times(), QStringLiteral("20:0:0-24:0:0"));
+    TimeBoxes::turnWheel(fixture.end().hour(), -1);
+    TimeBoxes::turnWheel(fixture.end().second(), -1);
+    QCOMPARE(fixture.times(), QStringLiteral("20:0:0-22:59:59"));
+    TimeBoxes::type(fixture.end().hour(), "23");
     QCOMPARE(fixture.times(), QStringLiteral("20:0:0-23:59:59"));
     TimeBoxes::turnWheel(fixture.end().second(), 1);
     QCOMPARE(fixture.page.texts().at(4), QStringLiteral("20:00:00.000-23:59:59.999 last.xml"));

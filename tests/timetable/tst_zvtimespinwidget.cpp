@@ -203,7 +203,8 @@ void tst_ZvTimeSpinWidget::steps_data()
     row("minute borrows", "5:0:7", 1, -1, "4:59:7");
     row("minute at the start", "0:0:0", 1, -1, "0:0:0");
     row("minute at the start keeps the second", "0:0:7", 1, -1, "0:0:7");
-    row("minute borrows from the end", "24:0:0", 1, -1, "23:59:0");
+    row("minute down at the end", "24:0:0", 1, -1, "24:0:0");
+    row("minute down twice at the end", "24:0:0", 1, -2, "24:0:0");
     row("second", "5:6:7", 2, 1, "5:6:8");
     row("second carries", "5:6:59", 2, 1, "5:7:0");
     row("second carries twice", "0:59:59", 2, 1, "1:0:0");
@@ -212,7 +213,8 @@ void tst_ZvTimeSpinWidget::steps_data()
     row("second borrows", "5:6:0", 2, -1, "5:5:59");
     row("second borrows twice", "5:0:0", 2, -1, "4:59:59");
     row("second at the start", "0:0:0", 2, -1, "0:0:0");
-    row("second borrows from the end", "24:0:0", 2, -1, "23:59:59");
+    row("second down at the end", "24:0:0", 2, -1, "24:0:0");
+    row("second down twice at the end", "24:0:0", 2, -2, "24:0:0");
     row("there and back", "9:59:58", 2, 5, "10:0:3");
     row("back and there", "10:0:2", 2, -5, "9:59:57");
 }
@@ -322,6 +324,8 @@ void tst_ZvTimeSpinWidget::signalAtChangesOnly()
     editor.widget.setTime(EndOfDay);
     changed.clear();
     editor.boxes.second()->stepUp();
+    editor.boxes.second()->stepDown();
+    editor.boxes.minute()->stepDown();
     editor.boxes.minute()->setValue(30);
     QCOMPARE(changed.count(), 0);
 }
@@ -471,7 +475,8 @@ void tst_ZvTimeSpinWidget::everySecondOfTheDay()
         if (widget.currentTime() != expected)
             QCOMPARE(widget.currentTime(), expected);
     }
-    for (int second = 86399; second >= 0; --second) {
+    widget.setTime(QTime(23, 59, 59));
+    for (int second = 86398; second >= 0; --second) {
         boxes.second()->stepDown();
         const QTime expected = QTime::fromMSecsSinceStartOfDay(second * 1000);
         if (widget.currentTime() != expected)

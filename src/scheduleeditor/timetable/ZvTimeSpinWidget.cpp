@@ -75,6 +75,12 @@ bool ZvTimeSpinWidget::isAtLastHour() const
     return m_hourBox->value() == m_hourBox->maximum();
 }
 
+// The 24th hour has no minutes: it is left by the box of the hours alone.
+int ZvTimeSpinWidget::wrapStateOf(const ZvTimeSpinBox *box) const
+{
+    return isAtLastHour() ? int(ZvTimeSpinBox::NotWrapped) : box->wrapState();
+}
+
 QTime ZvTimeSpinWidget::currentTime() const
 {
     if (isAtLastHour())
@@ -130,9 +136,10 @@ void ZvTimeSpinWidget::onMinuteBoxValueChanged(int /*value*/)
     if (m_boxUpdating)
         return;
     const QScopedValueRollback<bool> updating(m_boxUpdating, true);
-    if (m_minuteBox->wrapState() == ZvTimeSpinBox::Carried)
+    const int wrapState = wrapStateOf(m_minuteBox);
+    if (wrapState == ZvTimeSpinBox::Carried)
         carryIntoHour();
-    else if (m_minuteBox->wrapState() == ZvTimeSpinBox::Borrowed && !borrowFromHour())
+    else if (wrapState == ZvTimeSpinBox::Borrowed && !borrowFromHour())
         toMinimum(m_minuteBox);
     if (isAtLastHour()) {
         toMinimum(m_minuteBox);
@@ -146,9 +153,10 @@ void ZvTimeSpinWidget::onSecondBoxValueChanged(int /*value*/)
     if (m_boxUpdating)
         return;
     const QScopedValueRollback<bool> updating(m_boxUpdating, true);
-    if (m_secondBox->wrapState() == ZvTimeSpinBox::Carried)
+    const int wrapState = wrapStateOf(m_secondBox);
+    if (wrapState == ZvTimeSpinBox::Carried)
         carryIntoMinute();
-    else if (m_secondBox->wrapState() == ZvTimeSpinBox::Borrowed)
+    else if (wrapState == ZvTimeSpinBox::Borrowed)
         borrowFromMinute();
     if (isAtLastHour())
         toMinimum(m_secondBox);

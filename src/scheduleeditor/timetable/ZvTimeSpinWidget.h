@@ -9,8 +9,9 @@ class ZvTimeSpinBox;
 namespace Zavo {
 
 /// An editor of a time of day by hour, minute and second, in which seconds carry into minutes and
-/// minutes into hours. 23:59:59.999 stands for the end of the day and shows as 24 h 0 m 0 s; of any
-/// other time the milliseconds do not show. What is typed is held in the range only when it is
+/// minutes into hours. 23:59:59.999 stands for the end of the day and shows as 24 h 0 m 0 s, where
+/// minutes and seconds stay at 0 until the hour is another; of any other time the milliseconds do
+/// not show. What is typed is held in the range only when it is
 /// finished, since the first digit of a number may lie outside.
 class ZvTimeSpinWidget final : public QWidget
 {
@@ -45,6 +46,7 @@ private Q_SLOTS:
 
 private:
     bool isAtLastHour() const;
+    int wrapStateOf(const ZvTimeSpinBox *box) const;
     void takeTimeFrom(const ZvTimeSpinBox *box);
     void carryIntoHour();
     bool borrowFromHour();
