@@ -3,12 +3,16 @@
 #include "domain/ZvTimeTableTimeLabelInfo.h"
 
 #include <QGraphicsScene>
+#include <QImage>
+#include <QList>
 #include <QMap>
 #include <QObject>
 #include <QRectF>
 #include <QWidget>
 
 Q_DECLARE_METATYPE(bool *)
+Q_DECLARE_METATYPE(int *)
+Q_DECLARE_METATYPE(QImage **)
 Q_DECLARE_METATYPE(const QWidget *)
 
 namespace Zavo {
@@ -21,8 +25,11 @@ void registerMetaTypes()
 {
     qRegisterMetaType<QMap<int, QRectF>>("QMap<int,QRectF>");
     qRegisterMetaType<bool *>("bool*");
+    qRegisterMetaType<int *>("int*");
+    qRegisterMetaType<QImage **>("QImage**");
     qRegisterMetaType<const QWidget *>("const QWidget*");
     qRegisterMetaType<QGraphicsScene *>("QGraphicsScene*");
+    qRegisterMetaType<QList<QGraphicsScene *>>("QList<QGraphicsScene*>");
     qRegisterMetaType<Qt::DayOfWeek>("Qt::DayOfWeek");
     qRegisterMetaType<ZvScheduleBasicInfo>("ZvScheduleBasicInfo");
     qRegisterMetaType<ZvScheduleBasicInfo *>("ZvScheduleBasicInfo*");

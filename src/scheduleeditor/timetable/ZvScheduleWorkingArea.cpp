@@ -31,6 +31,9 @@ void registerPageMetaTypes()
 
 } // namespace
 
+// Runs when the library is loaded: who listens to a page's relays may come before any page.
+Q_CONSTRUCTOR_FUNCTION(registerPageMetaTypes)
+
 ZvScheduleWorkingArea::ZvScheduleWorkingArea(ZvChannel *channel, QWidget *parent)
     : TimeTablePage(parent)
     , m_channel(channel)
@@ -39,7 +42,6 @@ ZvScheduleWorkingArea::ZvScheduleWorkingArea(ZvChannel *channel, QWidget *parent
     // The snapshot comes first: a schedule that is dropped for its age is a change to be saved.
     renewSavedChannel();
     ChannelSchedules::removeBefore(channel, oldestKeptDate());
-    registerPageMetaTypes();
     connectTable();
 }
 
