@@ -48,6 +48,12 @@ public:
             send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
         }
     }
+    // A move whose source tells no buttons, as a synthesised one.
+    void moveToX(int x)
+    {
+        m_mouse.rx() = x;
+        send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+    }
     void release() { send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton); }
 
     // Indices that the channels hold, in the order of the tabs.
@@ -91,6 +97,8 @@ private Q_SLOTS:
     void cleanup();
     void firstTabCannotBeDragged();
     void noTabIsDraggedPastTheFirst();
+    void firstTabIsGuardedWhateverButtonsAMoveTells_data();
+    void firstTabIsGuardedWhateverButtonsAMoveTells();
     void dragRewritesIndices_data();
     void dragRewritesIndices();
     void clickMovesNothing();
@@ -110,6 +118,7 @@ private Q_SLOTS:
     void renameIsReportedOnce();
     void secondEditorEndsTheFirst();
     void foreignObjectEndsNothing();
+    void otherEditorRenamesTheCurrentTab();
     void renameWithoutTabs();
     void textEdited();
     void lookFollowsTheScreen();
@@ -154,6 +163,36 @@ void tst_ZvScheduleTabWidget::noTabIsDraggedPastTheFirst()
                           QStringLiteral("Delta"), QStringLiteral("Epsilon")}));
     QCOMPARE(main.indices(), InOrder);
     QCOMPARE(main.area(1)->channelName(), QStringLiteral("Gamma"));
+}
+
+void tst_ZvScheduleTabWidget::firstTabIsGuardedWhateverButtonsAMoveTells_data()
+{
+    QTest::addColumn<int>("pressed");
+    QTest::newRow("first tab") << 0;
+    QTest::newRow("third tab") << 2;
+}
+
+void tst_ZvScheduleTabWidget::firstTabIsGuardedWhateverButtonsAMoveTells()
+{
+    QFETCH(int, pressed);
+    TabFixture main;
+    const int offset = main.rect(pressed).center().x() - main.rect(pressed).left();
+    const int middle = main.rect(0).center().x();
+    main.press(pressed);
+    main.moveToX(main.rect(pressed).center().x() + 2);
+    main.moveToX(middle + offset + (pressed == 0 ? 0 : 2));
+    QTest::qWait(5);
+    QCOMPARE(QToolTip::isVisible(), pressed == 0);
+    main.moveToX(middle + offset + 1);
+    QTest::qWait(5);
+    QVERIFY(QToolTip::isVisible());
+    main.release();
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+    main.moveToX(middle);
+    QTest::qWait(5);
+    QVERIFY(!QToolTip::isVisible());
+    QCOMPARE(main.indices(), InOrder);
 }
 
 void tst_ZvScheduleTabWidget::dragRewritesIndices_data()
@@ -391,6 +430,20 @@ void tst_ZvScheduleTabWidget::foreignObjectEndsNothing()
     QObject *none = nullptr;
     QMetaObject::invokeMethod(main.tabs(), "editingTabNameFinished", Q_ARG(QObject*, none));
     QCOMPARE(request.count(), 0);
+}
+
+void tst_ZvScheduleTabWidget::otherEditorRenamesTheCurrentTab()
+{
+    TabFixture main;
+    main.tabs()->setCurrentIndex(3);
+    QSignalSpy request(main.tabs(), SIGNAL(requestChangeTabName(int,QString)));
+    auto *editor = new ZvScheduleRenameTabWidget(main.tabs());
+    const QPointer<QWidget> alive(editor);
+    editor->setInitialText(QStringLiteral("Delta"));
+    editor->setText(QStringLiteral("delta"));
+    QMetaObject::invokeMethod(main.tabs(), "editingTabNameFinished", Q_ARG(QObject*, editor));
+    QCOMPARE(request.value(0), (QVariantList{3, QStringLiteral("delta")}));
+    QTRY_VERIFY(!alive);
 }
 
 void tst_ZvScheduleTabWidget::renameWithoutTabs()

@@ -63,6 +63,11 @@ bool ZvScheduleTabWidget::eventFilter(QObject *watched, QEvent *event)
         if (static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton)
             finishDrag();
         break;
+    case QEvent::ContextMenu:
+    case QEvent::Leave:
+    case QEvent::WindowDeactivate:
+        m_releaseMayBeLost = true;
+        break;
     default:
         break;
     }
@@ -78,12 +83,14 @@ void ZvScheduleTabWidget::pressTabBar(const QMouseEvent &event)
     m_pressedIndex = tabBar()->tabAt(event.pos());
     m_dragOffset = tabBar()->tabRect(m_pressedIndex).left() - event.x();
     m_pressed = true;
+    m_releaseMayBeLost = false;
 }
 
-// False if the bar must not see the move. A menu that opened in the drag has taken its release.
+// False if the bar must not see the move. A menu or a window that opened in the drag takes its
+// release; by themselves the buttons of a move say nothing, since not every source tells them.
 bool ZvScheduleTabWidget::watchDrag(const QMouseEvent &event)
 {
-    if (m_pressed && event.buttons() == Qt::NoButton)
+    if (m_pressed && m_releaseMayBeLost && event.buttons() == Qt::NoButton)
         finishDrag();
     if (!m_pressed)
         return true;
@@ -184,6 +191,12 @@ void ZvScheduleTabWidget::finishEditing()
         Q_EMIT m_editor->QLineEdit::editingFinished();
 }
 
+// A wheel over the bar or a command may have made another tab current meanwhile.
+int ZvScheduleTabWidget::editedIndex() const
+{
+    return m_editedPage ? indexOf(m_editedPage) : -1;
+}
+
 void ZvScheduleTabWidget::editingTabNameFinished(QObject *object)
 {
     if (!object || object->metaObject() != &ZvScheduleRenameTabWidget::staticMetaObject)
@@ -193,8 +206,7 @@ void ZvScheduleTabWidget::editingTabNameFinished(QObject *object)
     const QString initialText = editor->initialText();
     editor->hide();
     editor->deleteLater();
-    // A wheel over the bar or a command may have made another tab current meanwhile.
-    const int index = m_editedPage ? indexOf(m_editedPage) : -1;
+    const int index = editor == m_editor ? editedIndex() : currentIndex();
     if (index >= 0 && !text.isEmpty() && text != initialText)
         Q_EMIT requestChangeTabName(index, text);
 }

@@ -67,12 +67,14 @@ private:
     bool mayDragTo(const QMouseEvent &event) const;
     void stopBesideFirstTab(const QMouseEvent &event);
     void finishDrag();
+    int editedIndex() const;
 
     bool m_movingTabs = false;
     int m_pressedIndex = 0;
     QRect m_firstTabRect;
     int m_dragOffset = 0;
     bool m_pressed = false;
+    bool m_releaseMayBeLost = false;
     QPointer<ZvScheduleRenameTabWidget> m_editor;
     QPointer<QWidget> m_editedPage;
 };
