@@ -64,6 +64,8 @@ private Q_SLOTS:
     void subjectAndDetails();
     void deletionAsksByDefault();
     void deletionWithoutAQuestion();
+    void confirmation_data();
+    void confirmation();
 };
 
 void tst_ScheduleRecorderDeletion::deletionOfTheScheduleOnShow()
@@ -196,6 +198,35 @@ void tst_ScheduleRecorderDeletion::deletionWithoutAQuestion()
     tabs.group()->undo();
     tabs.group()->redo();
     QCOMPARE(tabs.first()->channel()->scheduleList().size(), 1);
+}
+
+void tst_ScheduleRecorderDeletion::confirmation_data()
+{
+    QTest::addColumn<QString>("details");
+    QTest::addColumn<int>("reply");
+    QTest::addColumn<bool>("isYes");
+    QTest::newRow("yes") << QString() << int(QMessageBox::Yes) << true;
+    QTest::newRow("no") << QStringLiteral("1: A") << int(QMessageBox::No) << false;
+    QTest::newRow("escape") << QStringLiteral("1: A") << int(QMessageBox::NoButton) << false;
+}
+
+void tst_ScheduleRecorderDeletion::confirmation()
+{
+    QFETCH(QString, details);
+    QFETCH(int, reply);
+    const TwoTabs tabs;
+    MessageBoxAnswer boxes;
+    bool hasButton = false;
+    QString shown;
+    expectDeletion(boxes, static_cast<QMessageBox::StandardButton>(reply), QStringLiteral("50%1"))
+        .whileShown([&](QMessageBox *box) {
+            hasButton = hasDetailsButton(box);
+            shown = box->detailedText();
+        });
+    QTEST(tabs.widget()->confirmDelete(QStringLiteral("50%1"), details), "isYes");
+    QCOMPARE(hasButton, !details.isEmpty());
+    QCOMPARE(shown, details);
+    QVERIFY(tabs.widget()->findChildren<QMessageBox *>().isEmpty());
 }
 
 QTEST_MAIN(tst_ScheduleRecorderDeletion)

@@ -25,6 +25,9 @@ public:
     void deleteSelectedItems() override;
     bool cutSelectedItems() override;
 
+    /// Asks whether to delete @p subject, with @p details behind a button. True for Yes.
+    bool confirmDelete(const QString &subject, const QString &details);
+
 public Q_SLOTS:
     /// The last step of the current page; a move that is still under way is one.
     void undo();
@@ -49,9 +52,6 @@ public Q_SLOTS:
     void onDefaultStageNameChangedWithUndo(const QString &oldName, const QString &newName);
 
 protected:
-    /// Asks whether to delete @p subject, with @p details behind a button. True for Yes.
-    bool confirmDelete(const QString &subject, const QString &details);
-
     void connectWorkingArea(ZvScheduleWorkingArea *area) override;
 
 private:
