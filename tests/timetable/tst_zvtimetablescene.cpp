@@ -2,6 +2,7 @@
 #include "SignalLog.h"
 
 #include <QFont>
+#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsTextItem>
 #include <QtTest>
 
@@ -33,6 +34,15 @@ void watchAll(SignalLog &log, const ZvTimeTableScene *scene)
     log.watch(scene, SIGNAL(timeTableTimeItemHasNotSelected()), "none");
     log.watch(scene, SIGNAL(mousePressed()), "pressed");
     log.watch(scene, SIGNAL(mousePressingMoved()), "released");
+}
+
+void sendMouse(ZvTimeTableScene *scene, QEvent::Type type, const QPointF &scenePos)
+{
+    QGraphicsSceneMouseEvent event(type);
+    event.setButton(Qt::LeftButton);
+    event.setButtons(type == QEvent::GraphicsSceneMouseRelease ? Qt::NoButton : Qt::LeftButton);
+    event.setScenePos(scenePos);
+    QCoreApplication::sendEvent(scene, &event);
 }
 
 bool handlesVisible(const ZvTimeTableTimeItem *item)
@@ -70,6 +80,8 @@ private Q_SLOTS:
     void handleHitAreas_data();
     void handleHitAreas();
     void shortBandsHaveNoHitArea();
+    void releaseIsComparedWithThePress_data();
+    void releaseIsComparedWithThePress();
     void diesQuietly();
 };
 
@@ -441,6 +453,26 @@ void tst_ZvTimeTableScene::shortBandsHaveNoHitArea()
     table.select({1});
     QCOMPARE(table.scene()->resizeHandleAt(QPointF(180.0, yOf("12:00:00") + 0.5 / 60.0)),
              ZvTimeTableScene::DragTopHandle);
+}
+
+void tst_ZvTimeTableScene::releaseIsComparedWithThePress_data()
+{
+    QTest::addColumn<QPointF>("release");
+    QTest::addColumn<int>("reports");
+    QTest::newRow("in place") << QPointF(20.0, 40.0) << 0;
+    QTest::newRow("below") << QPointF(20.0, 41.0) << 1;
+    QTest::newRow("beside") << QPointF(21.0, 40.0) << 1;
+}
+
+// Not every sender says where in the scene the button went down.
+void tst_ZvTimeTableScene::releaseIsComparedWithThePress()
+{
+    QFETCH(QPointF, release);
+    TimeTableFixture table;
+    QSignalSpy spy(table.scene(), SIGNAL(mousePressingMoved()));
+    sendMouse(table.scene(), QEvent::GraphicsSceneMousePress, {20.0, 40.0});
+    sendMouse(table.scene(), QEvent::GraphicsSceneMouseRelease, release);
+    QTEST(spy.count(), "reports");
 }
 
 void tst_ZvTimeTableScene::diesQuietly()

@@ -216,6 +216,7 @@ bool ZvTimeTableScene::isOnSelectedTimeItem(const QPointF &point) const
 void ZvTimeTableScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     m_pressPos = event->pos();
+    m_pressScenePos = event->scenePos();
     m_dragMode = resizeHandleAt(event->scenePos());
     if (m_dragMode == NoDrag && isOnSelectedTimeItem(event->scenePos()))
         m_dragMode = DragSelection;
@@ -259,8 +260,8 @@ void ZvTimeTableScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         return;
     }
     QGraphicsScene::mouseReleaseEvent(event);
-    const bool movedInScene = event->scenePos() != event->buttonDownScenePos(event->button());
-    if (movedInScene || event->pos() != m_pressPos || m_hasDragged)
+    // The event itself knows the press of the button that went down last only.
+    if (event->scenePos() != m_pressScenePos || event->pos() != m_pressPos || m_hasDragged)
         reportDrag();
 }
 

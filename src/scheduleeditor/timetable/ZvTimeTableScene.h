@@ -97,6 +97,7 @@ private:
     bool m_hasDragged = false; ///< and not reported it yet
     bool m_movedSignalBlocked = false;
     QPointF m_pressPos;
+    QPointF m_pressScenePos;
     bool m_disableSelectionChanged = false;
 };
 
