@@ -76,6 +76,7 @@ private Q_SLOTS:
     void repaintsNothingByTheSetter();
     void followsTheDpiAfterAWhile_data();
     void followsTheDpiAfterAWhile();
+    void newLabelsFollowTheDpiAtOnce();
     void standsItsDeathBeforeTheDpiIsFollowed();
 
     void keepsLabelsAtTheEdgeOfTheView();
@@ -368,6 +369,20 @@ void tst_ZvTimeTableBaseItem::followsTheDpiAfterAWhile()
         texts.at(5)->boundingRect().height() - (QFontMetricsF(texts.at(5)->font()).descent() + 3.0);
     QCOMPARE(texts.at(5)->y(), 310.0 - rise);
     QVERIFY(texts.at(5)->y() < top);
+}
+
+void tst_ZvTimeTableBaseItem::newLabelsFollowTheDpiAtOnce()
+{
+    m_table->view()->hide();
+    m_table->base()->setVerticalScale(2.0);
+    paintAtDpi(m_table->base(), 192.0);
+    const QList<QGraphicsTextItem *> texts = rulerTextsOf(m_table->base());
+    QCOMPARE(texts.size(), 97);
+    for (const QGraphicsTextItem *text : texts)
+        QCOMPARE(text->font().pixelSize(), 24);
+    const double rise =
+        texts.at(4)->boundingRect().height() - (QFontMetricsF(texts.at(4)->font()).descent() + 3.0);
+    QCOMPARE(texts.at(4)->y(), 70.0 - rise / 2.0);
 }
 
 void tst_ZvTimeTableBaseItem::standsItsDeathBeforeTheDpiIsFollowed()

@@ -21,12 +21,14 @@ RulerLabels::RulerLabels(QGraphicsItem *carrier)
     connect(&m_missingTimer, SIGNAL(timeout()), this, SLOT(makeMissing()));
 }
 
-void RulerLabels::setLabels(const QList<ZvTimeTableTimeLabelInfo> &labels, double verticalScale)
+void RulerLabels::setLabels(const QList<ZvTimeTableTimeLabelInfo> &labels, double verticalScale,
+                            double dpiRatio)
 {
     if (labels == m_labels && verticalScale == m_labelledScale)
         return;
     m_labels = labels;
     m_labelledScale = verticalScale;
+    m_dpiRatio = dpiRatio;
     for (int i = m_labels.size(); i < m_textItems.size(); ++i)
         delete m_textItems.at(i);
     m_textItems.resize(m_labels.size());

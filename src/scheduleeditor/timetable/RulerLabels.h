@@ -26,8 +26,10 @@ class RulerLabels final : public QObject
 public:
     explicit RulerLabels(QGraphicsItem *carrier);
 
-    /// Shows @p labels at @p verticalScale. Does nothing if they are shown so already.
-    void setLabels(const QList<ZvTimeTableTimeLabelInfo> &labels, double verticalScale);
+    /// Shows @p labels at @p verticalScale, for a screen of @p dpiRatio. Does nothing if they are
+    /// shown at that scale already.
+    void setLabels(const QList<ZvTimeTableTimeLabelInfo> &labels, double verticalScale,
+                   double dpiRatio);
     /// Makes the labels between two y that are still missing.
     void ensure(double top, double bottom);
     /// Draws the labels on lines in @p range and no others.

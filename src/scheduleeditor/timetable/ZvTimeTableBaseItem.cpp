@@ -94,7 +94,7 @@ void ZvTimeTableBaseItem::paint(QPainter *painter, const QStyleOptionGraphicsIte
                   option->exposedRect.bottom());
     painter->restore();
     Q_EMIT timeTablePosUpdated(scenePos());
-    m_labels.setLabels(m_ruler.labels(), m_verticalScale);
+    m_labels.setLabels(m_ruler.labels(), m_verticalScale, m_dpiRatio);
     const double reach = labelReach * m_dpiRatio / m_verticalScale;
     m_labels.ensure(option->exposedRect.top() - reach, option->exposedRect.bottom() + reach);
 }
