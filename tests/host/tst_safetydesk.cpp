@@ -1,5 +1,6 @@
 #include "safety/SafetyDesk.h"
 
+#include "BytesRead.h"
 #include "DialogAnswer.h"
 #include "DragGesture.h"
 #include "FolderFaults.h"
@@ -17,7 +18,6 @@
 
 #include <QAction>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QListWidget>
@@ -470,11 +470,12 @@ void tst_SafetyDesk::showsAThousandChannelsAtOnce()
         m_folder->write(folder + QStringLiteral("2026-11-21T04-05-00.000Z.xml"), content);
     }
     m_folder->makeFolder(QStringLiteral("backup/channel9999.xml"));
-    QElapsedTimer timer;
-    timer.start();
+    const qint64 atFirst = ZavoTest::bytesRead();
+    if (atFirst < 0)
+        QSKIP("this machine does not tell what a process reads");
     BackupDialog dialog(m_folder->path(), m_net->store());
-    // A loaded machine may take some of it.
-    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    const qint64 made = ZavoTest::bytesRead() - atFirst;
+    QVERIFY2(made < count / 10 * content.size(), qPrintable(QString::number(made)));
     dialog.show();
     auto *const channels = dialog.findChild<QListWidget *>(QStringLiteral("Safety_Channel_List"));
     QTRY_VERIFY(channels->item(channels->count() - 1)->text().startsWith(QStringLiteral("Ch.0")));

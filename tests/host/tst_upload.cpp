@@ -399,10 +399,8 @@ void tst_Upload::cancelKeepsWhatWasThere()
     SignalLog log;
     log.watch(run.get(), SIGNAL(finished()));
     QTRY_VERIFY_WITH_TIMEOUT(line.isFaulty(), longestUploadMs);
-    QElapsedTimer clock;
-    clock.start();
     run->cancel();
-    QVERIFY2(clock.elapsed() < 50, "the window would be blocked");
+    QVERIFY2(log.count(QStringLiteral("finished")) == 0, "the window would be blocked");
     QTRY_COMPARE_WITH_TIMEOUT(log.count(QStringLiteral("finished")), 1, longestUploadMs);
     QCOMPARE(run->jobs().first()->state(), State::Cancelled);
     QCOMPARE(run->jobs().first()->message(),
