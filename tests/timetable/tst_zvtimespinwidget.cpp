@@ -59,6 +59,7 @@ private Q_SLOTS:
     void rangeHoldsWhatIsTypedWhenItIsFinished();
     void minimumIsLimitedByTheOldMaximum();
     void rangeLeavesTheTimeOnShow();
+    void anyInputHoldsTheTimeInANewRange();
     void invalidRange();
     void everySecondOfTheDay();
 };
@@ -448,6 +449,23 @@ void tst_ZvTimeSpinWidget::rangeLeavesTheTimeOnShow()
     QCOMPARE(changed.count(), 0);
     widget.setTime(widget.currentTime());
     QCOMPARE(widget.currentTime(), QTime(8, 0));
+}
+
+// Also one that leaves the boxes as they are.
+void tst_ZvTimeSpinWidget::anyInputHoldsTheTimeInANewRange()
+{
+    Editor editor(QStringLiteral("24:0:0"));
+    editor.widget.setTimeRange(QTime(8, 0), QTime(9, 0));
+    QSignalSpy changed(&editor.widget, SIGNAL(timeChanged(QTime,QTime)));
+    editor.boxes.minute()->stepUp();
+    QCOMPARE(editor.boxes.text(), QStringLiteral("9:0:0"));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.first().at(0).toTime(), EndOfDay);
+    QCOMPARE(changed.first().at(1).toTime(), QTime(9, 0));
+    editor.widget.setTimeRange(QTime(0, 0), QTime(7, 30));
+    QTest::keyClick(editor.boxes.hour(), Qt::Key_Return);
+    QCOMPARE(editor.boxes.text(), QStringLiteral("7:30:0"));
+    QCOMPARE(changed.count(), 2);
 }
 
 void tst_ZvTimeSpinWidget::invalidRange()

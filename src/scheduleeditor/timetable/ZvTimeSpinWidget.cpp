@@ -168,8 +168,8 @@ void ZvTimeSpinWidget::takeTimeFrom(const ZvTimeSpinBox *box)
 {
     const QTime time = currentTime();
     m_outOfRange = box->isBeingTyped() && (time < m_minimumTime || time > m_maximumTime);
-    if (!m_outOfRange && time != shownPart(m_time))
-        setTime(time);
+    if (!m_outOfRange)
+        setTime(time == shownPart(m_time) ? m_time : time);
 }
 
 void ZvTimeSpinWidget::onEditingFinished()
