@@ -14,6 +14,7 @@
 #include <QWindow>
 #include <QtTest>
 
+#include <algorithm>
 #include <typeinfo>
 #include <utility>
 
@@ -26,6 +27,7 @@ namespace {
 constexpr int AnswerInterval = 2;  // ms
 constexpr int ForcedAfter = 6;     // events in one dialog
 constexpr int DiskCheckEvery = 20; // events
+constexpr int LongestPause = 600;  // ms, beyond the longest delay of the program
 constexpr int ReportDelay = 150;   // ms, longer than a move by keys takes to be reported
 
 QString commandName(const QUndoStack *stack, int index)
@@ -44,6 +46,15 @@ bool Monkey::reachesBeyondData(const QWidget *widget)
            widget->inherits("Zavo::ConfigurationDialog");
 }
 
+QString Monkey::nameOf(const QWidget *topLevel)
+{
+    const QRect place = topLevel->geometry();
+    return QStringLiteral("%1 %2 %3,%4")
+        .arg(describe(topLevel), topLevel->windowTitle())
+        .arg(place.x())
+        .arg(place.y());
+}
+
 QString Monkey::describe(const QWidget *widget)
 {
     return QStringLiteral("%1 %2").arg(QLatin1String(widget->metaObject()->className()),
@@ -53,6 +64,7 @@ QString Monkey::describe(const QWidget *widget)
 Monkey::Monkey(unsigned seed, int eventCount, std::FILE *log)
     : m_choice(seed)
     , m_dialogChoice(seed + 1)
+    , m_paceChoice(seed + 2)
     , m_checks(&m_house)
     , m_clipboard(&m_choice)
     , m_eventsLeft(eventCount)
@@ -83,36 +95,43 @@ void Monkey::fail(const QStringList &wrong)
     }
 }
 
+// The bands on show change only with a step of the history.
+void Monkey::checkHistory(QStringList *wrong)
+{
+    const ZvScheduleWorkingArea *area = m_house.currentArea();
+    if (!area)
+        return;
+    const QString place = MonkeyChecks::placeInHistory(area);
+    const ZvSchedule table = MonkeyChecks::tableOf(area);
+    if (place == m_lastPlace) {
+        const QStringList differences = MonkeyChecks::differences(m_lastTable, table);
+        if (!differences.isEmpty())
+            wrong->append(QStringLiteral("changed without a step of undo:"));
+        wrong->append(differences);
+    } else {
+        ++m_changeCount;
+        note(QStringLiteral("history of %1: %2 of %3, %4 bands")
+                 .arg(area->channelName())
+                 .arg(area->undoStack()->index())
+                 .arg(area->undoStack()->count())
+                 .arg(table.timeList().size()));
+    }
+    m_lastTable = table;
+    m_lastPlace = place;
+}
+
 void Monkey::check()
 {
     QStringList wrong;
     if (const ZvScheduleWorkingArea *area = m_house.currentArea()) {
         if (MonkeyChecks::placeInHistory(area) == m_lastPlace &&
-            MonkeyChecks::tableOf(area) != m_lastTable)
+            !MonkeyChecks::differences(m_lastTable, MonkeyChecks::tableOf(area)).isEmpty())
             QTest::qWait(ReportDelay);
     }
-    if (const ZvScheduleWorkingArea *area = m_house.currentArea()) {
-        const QString place = MonkeyChecks::placeInHistory(area);
-        const QString table = MonkeyChecks::tableOf(area);
-        if (place == m_lastPlace && table != m_lastTable) {
-            wrong.append(QStringLiteral("changed without a step of undo:"));
-            wrong.append(MonkeyChecks::differences(m_lastTable, table));
-        }
-        m_lastTable = table;
-        if (place != m_lastPlace) {
-            ++m_changeCount;
-            note(QStringLiteral("history of %1: %2 of %3, %4 bands")
-                     .arg(area->channelName())
-                     .arg(area->undoStack()->index())
-                     .arg(area->undoStack()->count())
-                     .arg(area->currentTimes().size()));
-        }
-        m_lastPlace = place;
-    }
+    checkHistory(&wrong);
     if (!m_house.isClosed())
         wrong.append(m_checks.wrongInWindow());
-    if (m_events % DiskCheckEvery == 0 || m_house.isClosed())
-        wrong.append(m_checks.wrongOnDisk());
+    wrong.append(m_checks.wrongOnDisk(m_events % DiskCheckEvery == 0 || m_house.isClosed()));
     if (!wrong.isEmpty())
         fail(wrong);
 }
@@ -146,7 +165,17 @@ void Monkey::step()
         Q_EMIT finished();
         return;
     }
-    QTimer::singleShot(0, this, SLOT(step()));
+    QTimer::singleShot(nextPause(), this, SLOT(step()));
+}
+
+// Mostly as fast as a hand can be, so that events come between a cause and its delayed effect; now
+// and then all is left to come to rest.
+int Monkey::nextPause()
+{
+    const int kind = m_paceChoice.below(100);
+    if (kind < 85)
+        return m_paceChoice.between(1, 8);
+    return m_paceChoice.below(kind < 97 ? LongestPause / 10 : LongestPause);
 }
 
 // While an event is acted upon, whatever is modal or a popup runs a loop of its own, in which this
@@ -221,6 +250,10 @@ QWidget *Monkey::topLevel()
         else if (widget->isVisible() && widget->windowHandle())
             shown.append(widget);
     }
+    // They come sorted by address, which is chance.
+    std::stable_sort(shown.begin(), shown.end(), [](const QWidget *left, const QWidget *right) {
+        return nameOf(left) < nameOf(right);
+    });
     return shown.isEmpty() ? m_house.window() : m_choice.from(shown);
 }
 

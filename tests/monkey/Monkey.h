@@ -5,6 +5,8 @@
 #include "MonkeyClipboard.h"
 #include "MonkeyHouse.h"
 
+#include "ZvSchedule.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -46,6 +48,7 @@ private:
 
     static bool reachesBeyondData(const QWidget *widget);
     static QString describe(const QWidget *widget);
+    static QString nameOf(const QWidget *topLevel);
 
     void act();
     void useMouse();
@@ -70,14 +73,17 @@ private:
     QPoint tablePosition();
     Qt::KeyboardModifiers someModifiers();
 
+    int nextPause();
     void note(const QString &what);
     void check();
+    void checkHistory(QStringList *wrong);
     void fail(const QStringList &wrong);
     void undoAndRedoAll();
     void undoAndRedo(Zavo::ZvScheduleWorkingArea *area, MonkeyChecks::Content content);
 
     MonkeyChoice m_choice;
     MonkeyChoice m_dialogChoice;
+    MonkeyChoice m_paceChoice;
     MonkeyHouse m_house;
     MonkeyChecks m_checks;
     MonkeyClipboard m_clipboard;
@@ -87,7 +93,7 @@ private:
     int m_changeCount = 0;
     int m_undoneCount = 0;
     QString m_lastPlace;
-    QString m_lastTable;
+    Zavo::ZvSchedule m_lastTable;
     std::FILE *m_log;
     QPointer<QWidget> m_asked;
     int m_playedWithAsked = 0;

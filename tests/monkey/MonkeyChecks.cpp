@@ -20,6 +20,8 @@
 #include <QUndoStack>
 
 #include <algorithm>
+#include <set>
+#include <tuple>
 
 using namespace Zavo;
 
@@ -68,6 +70,25 @@ QString scheduleText(const ZvSchedule &schedule)
     return lines.join(QLatin1Char('\n'));
 }
 
+QStringList wrongWithBand(const QList<ZvTimeTableTimeItem *> &items, int i)
+{
+    const ZvTimeTableTimeItem *item = items.at(i);
+    const ZvTimeTableTimeItem *previous = i > 0 ? items.at(i - 1) : nullptr;
+    const ZvTimeTableTimeItem *next = i + 1 < items.size() ? items.at(i + 1) : nullptr;
+    QStringList wrong;
+    if (item->index() != i)
+        wrong.append(QStringLiteral("has the number %1").arg(item->index()));
+    if (item->previousItem() != previous || item->nextItem() != next)
+        wrong.append(QStringLiteral("is not linked to its neighbours"));
+    if (!item->startTime().isValid() || item->endTime() < item->startTime())
+        wrong.append(QStringLiteral("has no time"));
+    if (previous && previous->endTime().msecsTo(item->startTime()) < -ZvTime::ToleranceMs)
+        wrong.append(QStringLiteral("begins before ") + timeText(previous->timeInfo()));
+    if (previous && item->startTime() < previous->startTime())
+        wrong.append(QStringLiteral("is not in the order of time"));
+    return wrong;
+}
+
 void checkBands(const ZvScheduleWorkingArea *area, QStringList *wrong)
 {
     const ZvTimeTableTimeZoneItem *zone = MonkeyHouse::timeZone(area);
@@ -75,21 +96,11 @@ void checkBands(const ZvScheduleWorkingArea *area, QStringList *wrong)
         return;
     const QList<ZvTimeTableTimeItem *> items = zone->timeItems();
     for (int i = 0; i < items.size(); ++i) {
-        const ZvTimeTableTimeItem *item = items.at(i);
-        const ZvTimeTableTimeItem *previous = i > 0 ? items.at(i - 1) : nullptr;
-        const ZvTimeTableTimeItem *next = i + 1 < items.size() ? items.at(i + 1) : nullptr;
-        const QString name = QStringLiteral("band %1 (%2)").arg(i).arg(timeText(item->timeInfo()));
-        if (item->index() != i)
-            wrong->append(name + QStringLiteral(" has the number %1").arg(item->index()));
-        if (item->previousItem() != previous || item->nextItem() != next)
-            wrong->append(name + QStringLiteral(" is not linked to its neighbours"));
-        if (!item->startTime().isValid() || item->endTime() < item->startTime())
-            wrong->append(name + QStringLiteral(" has no time"));
-        if (previous && item->startTime().addMSecs(ZvTime::ToleranceMs) < previous->endTime())
-            wrong->append(name + QStringLiteral(" begins before ") +
-                          timeText(previous->timeInfo()));
-        if (previous && item->startTime() < previous->startTime())
-            wrong->append(name + QStringLiteral(" is not in the order of time"));
+        const QStringList here = wrongWithBand(items, i);
+        for (const QString &what : here)
+            wrong->append(QStringLiteral("band %1 (%2) %3")
+                              .arg(i)
+                              .arg(timeText(items.at(i)->timeInfo()), what));
     }
 }
 
@@ -109,12 +120,15 @@ void checkSelection(const ZvScheduleWorkingArea *area, QStringList *wrong)
 void checkSchedules(const ZvScheduleWorkingArea *area, QStringList *wrong)
 {
     const QList<ZvSchedule> &list = area->channel()->scheduleList();
-    for (int i = 1; i < list.size(); ++i) {
-        const auto same = [&list, i](const ZvSchedule &other) {
-            return other.hasSameKey(list.at(i));
-        };
-        if (std::any_of(list.cbegin(), list.cbegin() + i, same))
-            wrong->append(QStringLiteral("two of ") + scheduleText(list.at(i)));
+    std::set<std::tuple<int, int, qint64>> keys;
+    for (const ZvSchedule &schedule : list) {
+        const int day = static_cast<int>(schedule.dayOfWeek());
+        const bool hasDay = schedule.type() == ZvSchedule::DayOfWeek;
+        const bool hasDate = schedule.type() == ZvSchedule::Date;
+        const auto key = std::make_tuple(static_cast<int>(schedule.type()), hasDay ? day : 0,
+                                         hasDate ? schedule.date().toJulianDay() : 0);
+        if (!keys.insert(key).second)
+            wrong->append(QStringLiteral("two of ") + scheduleText(schedule));
     }
 }
 
@@ -151,14 +165,17 @@ QStringList MonkeyChecks::wrongInWindow() const
     return wrong;
 }
 
-QStringList MonkeyChecks::wrongOnDisk()
+QStringList MonkeyChecks::wrongOnDisk(bool thorough)
 {
     QStringList wrong;
     QDir folder(m_house->data().channelFolder());
+    const QDateTime change = QFileInfo(folder.path()).lastModified();
+    if (!thorough && change == m_seenFolder)
+        return wrong;
+    m_seenFolder = change;
     const QFileInfoList files = folder.entryInfoList(QDir::Files | QDir::Hidden, QDir::Name);
     for (const QFileInfo &file : files) {
-        const QString stamp = QStringLiteral("%1 %2").arg(
-            file.lastModified().toString(Qt::ISODateWithMs), QString::number(file.size()));
+        const auto stamp = qMakePair(file.lastModified(), file.size());
         if (m_seenFiles.value(file.fileName()) == stamp)
             continue;
         m_seenFiles.insert(file.fileName(), stamp);
@@ -183,11 +200,11 @@ QString MonkeyChecks::contentOf(ZvScheduleWorkingArea *area, Content content)
     return texts.join(QLatin1Char('\n'));
 }
 
-QString MonkeyChecks::tableOf(const ZvScheduleWorkingArea *area)
+ZvSchedule MonkeyChecks::tableOf(const ZvScheduleWorkingArea *area)
 {
     ZvSchedule schedule = area->currentScheduleInfo().toSchedule();
     schedule.setTimeList(area->currentTimes());
-    return scheduleText(bandsOf(schedule));
+    return schedule;
 }
 
 QString MonkeyChecks::placeInHistory(const ZvScheduleWorkingArea *area)
@@ -216,6 +233,20 @@ QStringList MonkeyChecks::differences(const QString &before, const QString &afte
     for (const QString &line : qAsConst(old))
         differences.append(QStringLiteral("- ") + line);
     return differences;
+}
+
+QStringList MonkeyChecks::differences(const ZvSchedule &before, const ZvSchedule &after)
+{
+    const QList<ZvTime> &times = before.timeList();
+    const QList<ZvTime> &others = after.timeList();
+    const auto isSame = [](const ZvTime &a, const ZvTime &b) {
+        return a.startTime() == b.startTime() && a.endTime() == b.endTime() &&
+               a.stageName() == b.stageName();
+    };
+    if (before.hasSameKey(after) &&
+        std::equal(times.cbegin(), times.cend(), others.cbegin(), others.cend(), isSame))
+        return {};
+    return differences(scheduleText(bandsOf(before)), scheduleText(bandsOf(after)));
 }
 
 } // namespace ZavoTest

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QDateTime>
 #include <QMap>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 
 namespace Zavo {
+class ZvSchedule;
 class ZvScheduleWorkingArea;
 } // namespace Zavo
 
@@ -26,8 +29,9 @@ public:
     QStringList wrongInWindow() const;
 
     /// Every channel file can be read, and nothing is left beside them. Looks only at files that
-    /// have changed since the last look.
-    QStringList wrongOnDisk();
+    /// have changed since the last look; without @p thorough, only if a file has come, gone or been
+    /// replaced.
+    QStringList wrongOnDisk(bool thorough);
 
     enum Content { Bands, BandsAndDefaultStages };
 
@@ -35,17 +39,19 @@ public:
     /// second, since one that was moved and came back may have lost a millisecond.
     static QString contentOf(Zavo::ZvScheduleWorkingArea *area, Content content);
 
-    /// The bands on show, to the tenth of a second, and where the page stands in its history. The
-    /// one changes only with the other.
-    static QString tableOf(const Zavo::ZvScheduleWorkingArea *area);
+    /// The bands on show, and where the page stands in its history. The one changes only with the
+    /// other.
+    static Zavo::ZvSchedule tableOf(const Zavo::ZvScheduleWorkingArea *area);
     static QString placeInHistory(const Zavo::ZvScheduleWorkingArea *area);
 
-    /// The lines that only one of two such texts has.
+    /// The lines that only one of two such texts has; of two tables, to the tenth of a second.
     static QStringList differences(const QString &before, const QString &after);
+    static QStringList differences(const Zavo::ZvSchedule &before, const Zavo::ZvSchedule &after);
 
 private:
     MonkeyHouse *m_house;
-    QMap<QString, QString> m_seenFiles;
+    QMap<QString, QPair<QDateTime, qint64>> m_seenFiles;
+    QDateTime m_seenFolder;
 };
 
 } // namespace ZavoTest

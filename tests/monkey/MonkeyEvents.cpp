@@ -133,8 +133,11 @@ void Monkey::type()
     note(QStringLiteral("type ") + text.left(20));
     const QPointer<QWindow> live(window->windowHandle());
     for (const QChar character : text.left(40)) {
+        // Of a popup that goes with the press nothing is left to release the key in.
         if (live)
-            QTest::sendKeyEvent(QTest::Click, live, Qt::Key_unknown, character, Qt::NoModifier);
+            QTest::sendKeyEvent(QTest::Press, live, Qt::Key_unknown, character, Qt::NoModifier);
+        if (live)
+            QTest::sendKeyEvent(QTest::Release, live, Qt::Key_unknown, character, Qt::NoModifier);
     }
     if (live && m_choice.chance(50))
         strike(live, Qt::Key_Return);
