@@ -40,6 +40,19 @@ ZvSchedule scheduleOf(ZvSchedule::ScheduleTypes type, const QString &stage,
     return schedule;
 }
 
+/// The language of the program, until this object goes.
+class SpokenLanguage final
+{
+    Q_DISABLE_COPY(SpokenLanguage)
+
+public:
+    explicit SpokenLanguage(const QString &name) { QLocale::setDefault(QLocale(name)); }
+    ~SpokenLanguage() { QLocale::setDefault(m_before); }
+
+private:
+    const QLocale m_before;
+};
+
 } // namespace
 
 class tst_Exporter : public QObject
@@ -58,6 +71,7 @@ private Q_SLOTS:
     void calendarIsReadByAnother();
     void calendarKeepsIdentities();
     void calendarHasAnEnd();
+    void weekSheetIsReadByAnother_data();
     void weekSheetIsReadByAnother();
     void weekSheetNamesShortBandsInAList();
     void refusesTargets_data();
@@ -292,7 +306,8 @@ void tst_Exporter::calendarIsReadByAnother()
              QStringLiteral("2026-03-09T08:00:00 2026-03-09T12:00:00 sub/b.xml Default schedule"));
     QCOMPARE(line(3),
              QStringLiteral("2026-03-09T20:00:00 2026-03-10T00:00:00 a.xml Default schedule"));
-    QCOMPARE(line(4), QStringLiteral("2026-03-10T20:00:00 2026-03-11T00:00:00 sub/b.xml Tuesday"));
+    QCOMPARE(line(4), QStringLiteral("2026-03-10T20:00:00 2026-03-11T00:00:00 sub/b.xml ") +
+                          QLocale().standaloneDayName(Qt::Tuesday));
     QCOMPARE(line(events.size() - 1),
              QStringLiteral("2026-03-17T00:00:00 2026-03-18T00:00:00 a.xml 2026-03-17"));
     QCOMPARE(events.at(0).toObject().value(QStringLiteral("LOCATION")).toString(),
@@ -329,8 +344,25 @@ void tst_Exporter::calendarHasAnEnd()
     QVERIFY(content.bytes.isEmpty());
 }
 
+// The week begins where the language has it begin.
+void tst_Exporter::weekSheetIsReadByAnother_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QDate>("first");
+    QTest::addColumn<QString>("tuesday");
+    QTest::newRow("none") << "C" << monday << "Tuesday";
+    QTest::newRow("German") << "de_DE" << monday << "Dienstag";
+    QTest::newRow("American") << "en_US" << monday.addDays(-1) << "Tuesday";
+    // Joined letters come out of the file in another form.
+    QTest::newRow("Egyptian") << "ar_EG" << monday.addDays(-2) << "";
+}
+
 void tst_Exporter::weekSheetIsReadByAnother()
 {
+    QFETCH(QString, language);
+    QFETCH(QDate, first);
+    QFETCH(QString, tuesday);
+    const SpokenLanguage spoken(language);
     ExportRequest wanted = request(ExportRequest::WeekSheet, QStringLiteral("a.pdf"));
     wanted.from = monday.addDays(3);
     QCOMPARE(run(wanted).problem, QString());
@@ -338,10 +370,12 @@ void tst_Exporter::weekSheetIsReadByAnother()
     QVERIFY(bytes.startsWith("%PDF-"));
     const QString sheet = text(QStringLiteral("a.pdf"));
     for (int day = 0; day < 7; ++day)
-        QVERIFY2(sheet.contains(monday.addDays(day).toString(Qt::ISODate)), qPrintable(sheet));
-    for (const auto *word :
-         {"Lobby", "2026-03-09 to 2026-03-15", "Default schedule", "Tuesday", "24:00"})
-        QVERIFY2(sheet.contains(QLatin1String(word)), qPrintable(sheet));
+        QVERIFY2(sheet.contains(first.addDays(day).toString(Qt::ISODate)), qPrintable(sheet));
+    const QString title = first.toString(Qt::ISODate) + QStringLiteral(" to ") +
+                          first.addDays(6).toString(Qt::ISODate);
+    for (const QString &words : {QStringLiteral("Lobby"), title, QStringLiteral("Default schedule"),
+                                 tuesday, QStringLiteral("24:00")})
+        QVERIFY2(sheet.contains(words), qPrintable(sheet));
     QCOMPARE(sheet.count(QString::fromUtf8("08:00\u201312:00")), 6);
     QCOMPARE(sheet.count(QString::fromUtf8("20:00\u201324:00")), 7);
     QCOMPARE(sheet.count(QChar::FormFeed), 1);

@@ -61,6 +61,13 @@ void drawLine(QPainter *painter, const QRectF &box, const QString &text, int fla
                       metrics.elidedText(text, Qt::ElideMiddle, box.width() * scale));
 }
 
+// Behind letters that run to the left its parts would be drawn in the opposite order.
+QString textOf(const QDate &date)
+{
+    constexpr QChar leftToRightMark(0x200E);
+    return leftToRightMark + date.toString(Qt::ISODate);
+}
+
 } // namespace
 
 WeekSheet::WeekSheet(const ZvChannel &channel, const QDate &date)
@@ -72,9 +79,8 @@ WeekSheet::WeekSheet(const ZvChannel &channel, const QDate &date)
     const QList<ZvSchedule> &schedules = channel.scheduleList();
     for (int i = 0; i < DaysPerWeek; ++i)
         m_days.append(DayProgramme::of(schedules, first.addDays(i)));
-    m_title = tr("%1: %2 to %3")
-                  .arg(channel.name(), first.toString(Qt::ISODate),
-                       m_days.constLast().date.toString(Qt::ISODate));
+    m_title =
+        tr("%1: %2 to %3").arg(channel.name(), textOf(first), textOf(m_days.constLast().date));
 }
 
 QByteArray WeekSheet::pdf()
@@ -140,7 +146,7 @@ void WeekSheet::drawDay(QPainter *painter, int place)
     painter->setFont(font(headPoints, true));
     drawLine(painter, head,
              locale.standaloneDayName(day.date.dayOfWeek(), QLocale::ShortFormat) +
-                 QLatin1Char(' ') + day.date.toString(Qt::ISODate),
+                 QLatin1Char(' ') + textOf(day.date),
              Qt::AlignHCenter | Qt::AlignTop);
     painter->setFont(font(slotPoints));
     drawLine(painter, head.adjusted(0, dayHeadHeight / 2, 0, -textInset),
