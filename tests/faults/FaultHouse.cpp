@@ -108,12 +108,17 @@ void FaultHouse::layOut(const Files &files, uid_t user)
             QFile::remove(path);
     }
     give(m_folder.path(), user);
+    const QLatin1Char slash('/');
     for (const QString &name : {QStringLiteral("channel"), QStringLiteral("stage")}) {
         if (!files.isEmpty())
             give(m_folder.makeFolder(name), user);
     }
-    for (auto file = files.cbegin(); file != files.cend(); ++file)
+    for (auto file = files.cbegin(); file != files.cend(); ++file) {
         give(m_folder.write(file.key(), file.value()), user);
+        for (int end = file.key().lastIndexOf(slash); end > 0;
+             end = file.key().lastIndexOf(slash, end - 1))
+            give(m_folder.filePath(file.key().left(end)), user);
+    }
 }
 
 Files FaultHouse::present() const

@@ -1,5 +1,7 @@
 #include "Operation.h"
 
+#include "FaultyFiles.h"
+
 #include "ChannelFiles.h"
 #include "HostWindow.h"
 #include "domain/ActionNames.h"
@@ -10,6 +12,7 @@
 #include "workspace/ZvScheduleMainWidget.h"
 
 #include <QItemSelectionModel>
+#include <QMessageBox>
 #include <QTime>
 
 using namespace Zavo;
@@ -21,6 +24,7 @@ namespace {
 constexpr int SavedTab = 2;
 constexpr int DeletedTab = 3;
 const QLatin1String NotSaved("can not be saved");
+const QLatin1String NotRestored("cannot be restored");
 
 QString channelPath(int number)
 {
@@ -250,6 +254,53 @@ Operation generateStage(const FaultHouse &house)
         }};
 }
 
+bool isAmongCopies(const FaultHouse &house, const QString &fileName, const QByteArray &bytes)
+{
+    const BackupStore store(QFile::decodeName(house.dataDir()));
+    const QList<BackupState> states = store.states(fileName);
+    return std::any_of(states.cbegin(), states.cend(), [&bytes](const BackupState &state) {
+        QFile copy(state.path);
+        return copy.open(QIODevice::ReadOnly) && copy.readAll() == bytes;
+    });
+}
+
+// As the program does it once its window is closed. The state before has to be among the copies,
+// unless that was what went wrong.
+Operation restore(const FaultHouse &house, int number)
+{
+    const QString path = channelPath(number);
+    const QString fileName = channelFileName(number);
+    const auto copyName = QStringLiteral("backup/%1/2026-01-02T03-04-05.678Z.xml").arg(fileName);
+    const ChannelsById old = house.sampleChannels();
+    ChannelsById expected = old;
+    expected.find(number)->setName(QStringLiteral("Earlier %1").arg(number));
+    Files before = house.sample();
+    const QByteArray present = before.value(path);
+    before.insert(copyName, QByteArray(present).replace("Channel ", "Earlier "));
+    return {number == 0 ? QStringLiteral("restoring the basic channel")
+                        : QStringLiteral("restoring"),
+            before, true,
+            [=](FaultHouse &in) {
+                const QString copy = in.folder().filePath(copyName);
+                if (!SafetyDesk::restore(in.folder().path(), {fileName, copy, {}}))
+                    QMessageBox::critical(nullptr, {}, NotRestored);
+            },
+            [=](const Outcome &outcome, const FaultHouse &in) {
+                QStringList changed{path};
+                if (number == 0)
+                    changed.append(QStringLiteral("channel/channel.xml"));
+                QString wrong = checkFilesAreUntouched(outcome, in, changed);
+                if (wrong.isEmpty())
+                    wrong = checkChannels(outcome, in, old, expected, NotRestored);
+                const bool copyWentWrong = outcome.isDone && FaultyFiles::haveStruck();
+                const bool isReplaced = outcome.files.value(path) != present;
+                if (wrong.isEmpty() && isReplaced && !copyWentWrong &&
+                    !isAmongCopies(in, fileName, present))
+                    wrong = QStringLiteral("the state before is among no copies");
+                return wrong;
+            }};
+}
+
 } // namespace
 
 bool Outcome::tells(const QString &words) const
@@ -271,6 +322,8 @@ std::vector<Operation> allOperations(const FaultHouse &house)
             deleteChannel(house),
             reset(house),
             generateStage(house),
+            restore(house, SavedTab),
+            restore(house, 0),
             start(house),
             firstStart()};
 }
