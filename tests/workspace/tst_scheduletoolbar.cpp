@@ -52,6 +52,7 @@ class tst_ScheduleToolBar : public QObject
 private Q_SLOTS:
     void order();
     void missingActionsAreLeftOut();
+    void anotherOne();
     void sharesTheActions();
     void blanks();
     void closeButton();
@@ -77,9 +78,26 @@ void tst_ScheduleToolBar::missingActionsAreLeftOut()
 {
     const MainWidgetFixture main({AllActions[0], AllActions[4]});
     QCOMPARE(layoutOf(main.toolBar()),
-             (QStringList{AllActions[0], QStringLiteral("|"), AllActions[4], QStringLiteral("|"),
-                          QStringLiteral("_"), QStringLiteral("_"),
+             (QStringList{AllActions[0], QStringLiteral("|"), QStringLiteral("|"), AllActions[4],
+                          QStringLiteral("|"), QStringLiteral("_"), QStringLiteral("_"),
                           QStringLiteral("Action_Close_Stage")}));
+}
+
+void tst_ScheduleToolBar::anotherOne()
+{
+    const MainWidgetFixture main(AllActions);
+    const QPointer<QToolBar> toolBar = main.widget->createToolBar();
+    QCOMPARE(layoutOf(toolBar), layoutOf(main.toolBar()));
+    QCOMPARE(toolBar->objectName(), QStringLiteral("ScheduleToolBar"));
+    QCOMPARE(toolBar->parent(), main.widget.get());
+    toolBar->resize(400, 40);
+    toolBar->show();
+    main.widget->show();
+    QCOMPARE(toolBar->styleSheet(), QStringLiteral("QToolButton {width: 16px; height: 16px;}"));
+    QSignalSpy closing(main.widget.get(), SIGNAL(requestClose()));
+    toolBar->actions().last()->trigger();
+    QCOMPARE(closing.count(), 0);
+    QTRY_COMPARE(closing.count(), 1);
 }
 
 void tst_ScheduleToolBar::sharesTheActions()

@@ -65,11 +65,8 @@ ScheduleToolBar::~ScheduleToolBar()
     }
 }
 
-// A group of which nothing is there leaves no separator behind.
 void ScheduleToolBar::addGroup(const QList<QAction *> &actions)
 {
-    if (actions.isEmpty())
-        return;
     addActions(actions);
     addSeparator();
 }

@@ -12,6 +12,7 @@ class ScheduleToolBar final : public QToolBar
 
 public:
     /// @p actions are looked up by their object names; one that is missing is left out.
+    /// The separators and blanks are there in any case.
     explicit ScheduleToolBar(const QList<QAction *> &actions, QWidget *parent = nullptr);
     ~ScheduleToolBar() override;
 

@@ -66,14 +66,13 @@ void ZvScheduleMainWidget::setupWidgets()
     auto *layout = new QVBoxLayout;
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_toolBar = createToolBar();
-    layout->setMenuBar(m_toolBar);
+    layout->setMenuBar(createToolBar());
     m_tabWidget = createTabWidget();
     layout->addWidget(m_tabWidget);
     setLayout(layout);
 }
 
-ScheduleToolBar *ZvScheduleMainWidget::createToolBar()
+QToolBar *ZvScheduleMainWidget::createToolBar()
 {
     auto *toolBar = new ScheduleToolBar(actionList(), this);
     toolBar->installEventFilter(this);
@@ -106,8 +105,8 @@ ZvScheduleTabWidget *ZvScheduleMainWidget::createTabWidget()
 bool ZvScheduleMainWidget::eventFilter(QObject *watched, QEvent *event)
 {
     const bool scales = event->type() == QEvent::ShowToParent || event->type() == QEvent::Resize;
-    if (m_toolBar && watched == m_toolBar && scales)
-        m_toolBar->scaleButtons();
+    if (auto *toolBar = scales ? qobject_cast<ScheduleToolBar *>(watched) : nullptr)
+        toolBar->scaleButtons();
     return ScheduleRouter::eventFilter(watched, event);
 }
 

@@ -6,10 +6,10 @@
 #include <QMap>
 
 class QMenu;
+class QToolBar;
 
 namespace Zavo {
 
-class ScheduleToolBar;
 class ZvChannel;
 class ZvScheduleTabWidget;
 
@@ -27,6 +27,10 @@ public:
 
     /// Builds the content. Called once, after setActionList().
     void setupWidgets();
+
+    /// A tool bar of the actions of setActionList() with a close button of its own. This widget
+    /// owns it; setupWidgets() puts one above the tabs.
+    QToolBar *createToolBar();
 
     /// The page of the current tab, or null.
     ZvScheduleWorkingArea *currentWorkingArea() const override;
@@ -103,7 +107,6 @@ private Q_SLOTS:
     void onTabWidgetContextMenuAboutToShow();
 
 private:
-    ScheduleToolBar *createToolBar();
     ZvScheduleTabWidget *createTabWidget();
     void addChannels(const QList<ZvChannel *> &channels);
     bool confirmChannelDeletion(const QString &channelName);
@@ -117,7 +120,6 @@ private:
     void showCritical(const QString &title, const QString &text);
 
     ZvScheduleTabWidget *m_tabWidget = nullptr;
-    ScheduleToolBar *m_toolBar = nullptr;
     QPointer<QMenu> m_editMenu;
     QMap<int, ZvScheduleWorkingArea *> m_areaById;
     QIcon m_channelIcon;
