@@ -33,6 +33,7 @@ private Q_SLOTS:
     void restartInAnotherRatio();
     void sizesSurvive();
     void longTitlesTakeNoRoom();
+    void narrowWindowHasRoomForTheDocks();
     void damagedSettings_data();
     void damagedSettings();
     void settingsThatAreNoFile();
@@ -166,6 +167,23 @@ void tst_DockLayout::longTitlesTakeNoRoom()
     QVERIFY(host.startSettled());
     for (const QDate &date : {QDate(2031, 9, 24), QDate(2031, 11, 26)}) {
         host.main()->switchToDateSchedule(date);
+        host.settle();
+        QCOMPARE(host.switcher()->width(), 330);
+        QCOMPARE(host.chooser()->width(), 300);
+    }
+}
+
+// The page asks for no more room than what it shows, not even when it comes.
+void tst_DockLayout::narrowWindowHasRoomForTheDocks()
+{
+    DockHost host({QStringLiteral("Alpha"), QStringLiteral("Beta")});
+    for (int start = 0; start < 2; ++start) {
+        host.restart(QSize(1050, 768));
+        QVERIFY(host.startSettled());
+        QTest::qWait(50);
+        QCOMPARE(host.switcher()->width(), 330);
+        QCOMPARE(host.chooser()->width(), 300);
+        host.tabs()->setCurrentIndex(1);
         host.settle();
         QCOMPARE(host.switcher()->width(), 330);
         QCOMPARE(host.chooser()->width(), 300);

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include <utility>
+
 namespace Zavo {
 
 namespace {
@@ -76,6 +78,21 @@ void WorkingAreaHeader::setScheduleEnabled(bool enabled)
     showTitleFont(enabled);
     m_createWidget->setVisible(!enabled);
     m_defaultStageWidget->setEnabled(enabled);
+}
+
+// The tabs are as wide as the widest of their pages, and a page that waits for its first schedule
+// has the button. The docks would give way to it for good.
+QSize WorkingAreaHeader::minimumSizeHint() const
+{
+    const QSize size = QWidget::minimumSizeHint();
+    return m_wasShown ? size : QSize(0, size.height());
+}
+
+void WorkingAreaHeader::showEvent(QShowEvent *event)
+{
+    if (!std::exchange(m_wasShown, true))
+        updateGeometry();
+    QWidget::showEvent(event);
 }
 
 } // namespace Zavo

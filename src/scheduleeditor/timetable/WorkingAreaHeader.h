@@ -26,6 +26,12 @@ public:
     /// The look of a schedule that exists, or of one that does not.
     void setScheduleEnabled(bool enabled);
 
+    /// Takes no width before it was first shown.
+    QSize minimumSizeHint() const override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     QWidget *newCreateWidget();
     void showTitleFont(bool enabled);
@@ -34,6 +40,7 @@ private:
     QAbstractButton *m_createButton = nullptr;
     QWidget *m_createWidget;
     ZvScheduleDefaultStageWidget *m_defaultStageWidget;
+    bool m_wasShown = false;
 };
 
 } // namespace Zavo
