@@ -67,6 +67,8 @@ private Q_SLOTS:
     void endsBeforeTheNextCommand();
     void goesToItsTab();
     void ofADeletedChannel();
+    void widgetDiesBehindTheRefusal_data();
+    void widgetDiesBehindTheRefusal();
 };
 
 void tst_ChannelRename::typedIntoTheTab()
@@ -390,6 +392,32 @@ void tst_ChannelRename::ofADeletedChannel()
     QTest::keyClick(editorOf(main), Qt::Key_Return);
     QCOMPARE(request.count(), 0);
     QCOMPARE(main.tabTexts(), (QStringList{Names[0], Names[2]}));
+}
+
+void tst_ChannelRename::widgetDiesBehindTheRefusal_data()
+{
+    QTest::addColumn<QByteArray>("command");
+    for (const char *command : {"addNewChannel", "removeCurrentChannel",
+                                "showChangeChannelOrderDialog", "showCurrentChannelInformation"})
+        QTest::newRow(command) << QByteArray(command);
+}
+
+void tst_ChannelRename::widgetDiesBehindTheRefusal()
+{
+    QFETCH(QByteArray, command);
+    MainWidgetFixture main;
+    main.createTabs(Names);
+    main.widget->show();
+    main.tabs()->setCurrentIndex(1);
+    main.widget->toEditTabName();
+    QTest::keyClicks(editorOf(main), Names[2]);
+    MessageBoxAnswer answer;
+    answer.expect(QMessageBox::Ok).text(takenText(Names[2])).whileShown([&main](QMessageBox *) {
+        main.widget.reset();
+    });
+    QMetaObject::invokeMethod(main.widget.get(), command.constData());
+    QVERIFY(!main.widget);
+    QCOMPARE(main.data.names(QStringLiteral("channel")).size(), 3);
 }
 
 QTEST_MAIN(tst_ChannelRename)

@@ -64,6 +64,8 @@ private Q_SLOTS:
     void allChannelsWithoutBasicChannel();
     void failedSaveTellsAndRenewsSnapshot();
     void allChannelsOnFullDisk();
+    void widgetDiesBehindTheMessage_data();
+    void widgetDiesBehindTheMessage();
     void saveChannelTellsOnlyIfAsked();
     void promptTexts_data();
     void promptTexts();
@@ -190,6 +192,28 @@ void tst_ChannelSaving::allChannelsOnFullDisk()
     answer.expect(QMessageBox::Ok).text(notSavedText(Names[2]));
     const WriteFailure fullDisk;
     main.widget->saveAllChannel();
+}
+
+void tst_ChannelSaving::widgetDiesBehindTheMessage_data()
+{
+    QTest::addColumn<bool>("savesAll");
+    QTest::newRow("current channel") << false;
+    QTest::newRow("all channels") << true;
+}
+
+void tst_ChannelSaving::widgetDiesBehindTheMessage()
+{
+    QFETCH(bool, savesAll);
+    MainWidgetFixture main;
+    main.createTabs(AllNames);
+    MessageBoxAnswer answer;
+    answer.expect(QMessageBox::Ok).whileShown([&main](QMessageBox *) { main.widget.reset(); });
+    const WriteFailure fullDisk;
+    if (savesAll)
+        main.widget->saveAllChannel();
+    else
+        main.widget->saveCurrentChannel();
+    QVERIFY(!main.widget);
 }
 
 void tst_ChannelSaving::saveChannelTellsOnlyIfAsked()

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void tabShowsItsChannelUpToDate();
     void folderCannotBeCreated();
     void defaultChannelCannotBeWritten();
+    void diesBehindTheMessageOfTheStart_data();
+    void diesBehindTheMessageOfTheStart();
     void addedChannelGetsItsTab();
     void nullChannelIsPassedOver();
     void pageReceivesEditMenu();
@@ -257,6 +259,30 @@ void tst_ZvScheduleMainWidget::defaultChannelCannotBeWritten()
     QCOMPARE(main.tabs()->count(), 0);
     const MessageBoxAnswer nothingToSave;
     QVERIFY(main.widget->confirmSaveChannels(1));
+}
+
+void tst_ZvScheduleMainWidget::diesBehindTheMessageOfTheStart_data()
+{
+    QTest::addColumn<bool>("hasFolder");
+    QTest::newRow("no folder") << false;
+    QTest::newRow("no channel") << true;
+}
+
+void tst_ZvScheduleMainWidget::diesBehindTheMessageOfTheStart()
+{
+    QFETCH(bool, hasFolder);
+    MainWidgetFixture main;
+    if (hasFolder)
+        main.data.makeFolder(QStringLiteral("channel/channel3.xml"));
+    else
+        main.data.write(QStringLiteral("channel"), "a file");
+    QSignalSpy close(main.widget.get(), SIGNAL(requestClose()));
+    MessageBoxAnswer answer;
+    answer.expect(QMessageBox::Ok).whileShown([&main](QMessageBox *) { main.widget.reset(); });
+    main.createTabs();
+    QVERIFY(!main.widget);
+    QTest::qWait(5);
+    QCOMPARE(close.count(), 0);
 }
 
 void tst_ZvScheduleMainWidget::addedChannelGetsItsTab()

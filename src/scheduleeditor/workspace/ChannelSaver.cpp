@@ -9,6 +9,18 @@
 
 namespace Zavo {
 
+namespace {
+
+QList<QPointer<ZvScheduleWorkingArea>> guardedAreas(const QList<ZvScheduleWorkingArea *> &areas)
+{
+    QList<QPointer<ZvScheduleWorkingArea>> guarded;
+    for (ZvScheduleWorkingArea *area : areas)
+        guarded.append(area);
+    return guarded;
+}
+
+} // namespace
+
 ChannelSaver::ChannelSaver(QWidget *messageParent)
     : m_messageParent(messageParent)
 {
@@ -35,11 +47,22 @@ bool ChannelSaver::saveChannel(const ZvChannel *channel, bool showError) const
     return false;
 }
 
-void ChannelSaver::saveArea(ZvScheduleWorkingArea *area) const
+// While a message is open the event loop runs, and a page can go with its window.
+void ChannelSaver::saveArea(const QPointer<ZvScheduleWorkingArea> &area) const
 {
     storeTable(area);
     saveChannel(area->channel(), true);
-    area->renewSavedChannel();
+    if (area)
+        area->renewSavedChannel();
+}
+
+void ChannelSaver::saveAreas(const QList<ZvScheduleWorkingArea *> &areas) const
+{
+    const auto guarded = guardedAreas(areas);
+    for (const QPointer<ZvScheduleWorkingArea> &area : guarded) {
+        if (area)
+            saveArea(area);
+    }
 }
 
 void ChannelSaver::renewBasicFile(const ZvChannel *channel)
@@ -48,14 +71,11 @@ void ChannelSaver::renewBasicFile(const ZvChannel *channel)
         ChannelFolder::copyToBasicFile(*channel);
 }
 
-// While a question is open the event loop runs, and a page can go with its window.
 bool ChannelSaver::confirmSave(const QList<ZvScheduleWorkingArea *> &areas, int reason) const
 {
     SavePrompt prompt(reason, m_messageParent);
-    QList<QPointer<ZvScheduleWorkingArea>> alive;
-    for (ZvScheduleWorkingArea *area : areas)
-        alive.append(area);
-    for (const QPointer<ZvScheduleWorkingArea> &area : qAsConst(alive)) {
+    const auto guarded = guardedAreas(areas);
+    for (const QPointer<ZvScheduleWorkingArea> &area : guarded) {
         if (!area)
             continue;
         storeTable(area);

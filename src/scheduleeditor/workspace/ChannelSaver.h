@@ -26,8 +26,11 @@ public:
     bool saveChannel(const ZvChannel *channel, bool showError) const;
 
     /// Stores, writes and takes a new snapshot. The snapshot is renewed even if the file could not
-    /// be written; the message has told the user.
-    void saveArea(ZvScheduleWorkingArea *area) const;
+    /// be written; the message has told the user. Not null, but it may die behind the message.
+    void saveArea(const QPointer<ZvScheduleWorkingArea> &area) const;
+
+    /// The same for all of @p areas that are still there when it is their turn.
+    void saveAreas(const QList<ZvScheduleWorkingArea *> &areas) const;
 
     /// Asks about each of @p areas whose channel is modified and saves those that are to be,
     /// without renewing their snapshots. False if the user cancelled. @p reason is a

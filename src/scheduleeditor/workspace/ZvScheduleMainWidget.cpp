@@ -126,18 +126,21 @@ void ZvScheduleMainWidget::createTabs()
         return;
     }
     ChannelFolder::Channels channels;
+    const QPointer<ZvScheduleMainWidget> self(this);
     switch (ChannelFolder(ZvEditorConfig::dataDir()).load(&channels)) {
     case ChannelFolder::LoadResult::FolderNotCreated:
         showCritical(tr("Critical Error"),
                      tr("Channel Folder cannot be created. \nPlease check the data folder write "
                         "permission."));
-        QTimer::singleShot(RetryDelay, this, SLOT(closeScheduleEditor()));
+        if (self)
+            QTimer::singleShot(RetryDelay, this, SLOT(closeScheduleEditor()));
         return;
     case ChannelFolder::LoadResult::ChannelNotWritten:
         showCritical(tr("Create Channel"),
                      tr("The channel file can not be created. \nPlease make sure that channel "
                         "folder is writable."));
-        Q_EMIT requestClose();
+        if (self)
+            Q_EMIT requestClose();
         return;
     case ChannelFolder::LoadResult::Loaded:
         break;
@@ -199,18 +202,20 @@ void ZvScheduleMainWidget::closeScheduleEditor()
 
 void ZvScheduleMainWidget::saveCurrentChannel()
 {
-    ZvScheduleWorkingArea *area = currentWorkingArea();
+    const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
     if (!area)
         return;
     ChannelSaver(this).saveArea(area);
-    ChannelSaver::renewBasicFile(area->channel());
+    if (area)
+        ChannelSaver::renewBasicFile(area->channel());
 }
 
 void ZvScheduleMainWidget::saveAllChannel()
 {
-    const ChannelSaver saver(this);
-    for (ZvScheduleWorkingArea *area : qAsConst(m_areaById))
-        saver.saveArea(area);
+    const QPointer<ZvScheduleMainWidget> self(this);
+    ChannelSaver(this).saveAreas(m_areaById.values());
+    if (!self)
+        return;
     if (ZvScheduleWorkingArea *area = m_areaById.value(ChannelFolder::BasicChannelId))
         saveAsBasicChannelFile(area->channel());
 }

@@ -109,6 +109,7 @@ private Q_SLOTS:
 private:
     ZvScheduleTabWidget *createTabWidget();
     void addChannels(const QList<ZvChannel *> &channels);
+    bool endRename();
     bool confirmChannelDeletion(const QString &channelName);
     void removeTab(ZvScheduleWorkingArea *area);
     void forgetArea(const ZvScheduleWorkingArea *area);

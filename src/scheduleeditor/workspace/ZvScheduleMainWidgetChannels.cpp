@@ -22,13 +22,21 @@
 // The commands that change the set of channels and their names, and the menu of a tab.
 namespace Zavo {
 
+// False if this died meanwhile: a refused name is told by a message, which runs an event loop.
+bool ZvScheduleMainWidget::endRename()
+{
+    const QPointer<ZvScheduleMainWidget> self(this);
+    if (m_tabWidget)
+        m_tabWidget->finishEditing();
+    return self;
+}
+
 void ZvScheduleMainWidget::addNewChannel()
 {
     // Before the start has read the channels nobody knows which ids are taken.
     const bool isStarting = !m_tabsCreated && m_areaById.isEmpty();
-    if (!m_tabWidget || isStarting)
+    if (!m_tabWidget || isStarting || !endRename())
         return;
-    m_tabWidget->finishEditing();
     QString error;
     // The file says one place too few until the channel is saved; only the added tab has its place.
     auto channel = ChannelCreation::create(ChannelFolder(ZvEditorConfig::dataDir()),
@@ -57,8 +65,7 @@ void ZvScheduleMainWidget::removeCurrentChannel()
     const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
     if (!area || !area->channel())
         return;
-    m_tabWidget->finishEditing();
-    if (!area || !confirmChannelDeletion(area->channelName()) || !area)
+    if (!endRename() || !area || !confirmChannelDeletion(area->channelName()) || !area)
         return;
     if (!QFile::remove(area->channel()->filePath())) {
         showCritical(tr("Delete Channel"),

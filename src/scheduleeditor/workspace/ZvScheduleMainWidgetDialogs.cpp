@@ -12,9 +12,8 @@ namespace Zavo {
 
 void ZvScheduleMainWidget::showChangeChannelOrderDialog()
 {
-    if (!m_tabWidget)
+    if (!m_tabWidget || !endRename())
         return;
-    m_tabWidget->finishEditing();
     const QPointer<ZvScheduleWorkingArea> area = currentWorkingArea();
     if (!area)
         return;
@@ -67,8 +66,8 @@ void ZvScheduleMainWidget::moveTabTo(int from, int to)
 
 void ZvScheduleMainWidget::showCurrentChannelInformation()
 {
-    if (m_tabWidget)
-        m_tabWidget->finishEditing();
+    if (!endRename())
+        return;
     if (const ZvScheduleWorkingArea *area = currentWorkingArea())
         ZvChannelInformationWidget::showDialog(area->channel(), this);
 }
