@@ -542,6 +542,8 @@ void tst_ChannelCommands::withoutWidgets()
     ZvScheduleMainWidget widget;
     widget.addNewChannel();
     widget.removeCurrentChannel();
+    QMetaObject::invokeMethod(&widget, "onTabCurrentIndexChanged", Q_ARG(int, 0));
+    QMetaObject::invokeMethod(&widget, "onTabWidgetContextMenuRequested", Q_ARG(QPoint, QPoint()));
     QVERIFY(data.names().isEmpty());
 }
 

@@ -246,7 +246,8 @@ ZvScheduleWorkingArea *ZvScheduleMainWidget::currentWorkingArea() const
 
 void ZvScheduleMainWidget::onTabCurrentIndexChanged(int index)
 {
-    auto *area = qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget->widget(index));
+    auto *area =
+        m_tabWidget ? qobject_cast<ZvScheduleWorkingArea *>(m_tabWidget->widget(index)) : nullptr;
     if (!area)
         return;
     showWorkingArea(area);

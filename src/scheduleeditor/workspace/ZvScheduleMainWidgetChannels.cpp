@@ -160,7 +160,7 @@ void ZvScheduleMainWidget::toEditTabName()
 // Only the header of the current tab has a menu.
 void ZvScheduleMainWidget::onTabWidgetContextMenuRequested(const QPoint &pos)
 {
-    if (!m_tabWidget->currentTabRect().contains(pos))
+    if (!m_tabWidget || !m_tabWidget->currentTabRect().contains(pos))
         return;
     auto *menu = new QMenu(this);
     QAction *rename =
