@@ -4,6 +4,8 @@
 #include "ZvConfig.h"
 #include "ZvStage.h"
 #include "stages/ZvScheduleStageListView.h"
+#include "timetable/TimeTableRuler.h"
+#include "timetable/ZvTimeTableBaseItem.h"
 
 #include <QProcess>
 #include <QRect>
@@ -133,6 +135,18 @@ QByteArray stageBytes(const QString &folder)
            QByteArray::number(box.height(), 'f', 3) + '\n';
 }
 
+QByteArray timeTableTexts()
+{
+    const ZvTimeTableBaseItem base;
+    QString text;
+    for (const double y : {10.0, 100.5, 1450.0, 1451.0})
+        text += base.timeStringAt(QPointF(0.0, y)) + QLatin1Char(' ');
+    const TimeTableRuler ruler(2.0);
+    for (const ZvTimeTableTimeLabelInfo &label : ruler.labels())
+        text += label.text() + QLatin1Char('\n');
+    return text.toUtf8();
+}
+
 QByteArray allBytes()
 {
     const QTemporaryDir folder;
@@ -141,7 +155,7 @@ QByteArray allBytes()
     const QByteArray names = ZvScheduleStageListView::encodeStageNames(
         {QStringLiteral("Iıİi 12.xml"), QStringLiteral("١٢.zstg")});
     return channelBytes(folder.path()) + clipboardBytes() + settingsBytes(folder.path()) +
-           stageBytes(folder.path()) + names;
+           stageBytes(folder.path()) + names + timeTableTexts();
 }
 
 const char *const Locales[] = {"C",     "de_DE", "tr_TR", "ja_JP", "zh_CN",
@@ -152,7 +166,7 @@ const char *const Zones[] = {"UTC", "Europe/Berlin", "America/Sao_Paulo", "Asia/
 } // namespace
 
 /// Whatever language and time zone a machine is set to, the same comes into files and on the
-/// clipboard, and the same is read.
+/// clipboard, the same is read, and the time table has the same digits.
 class tst_Surroundings : public QObject
 {
     Q_OBJECT
@@ -186,7 +200,8 @@ void tst_Surroundings::bytesAreTheseLetterForLetter()
           "<Time Stage=\"صالة ١٢.xml\" Start=\"02:30:05\" End=\"12:00:00\"/>",
           "Type=\"2018-11-04\"", "Type=\"2011-12-30\"", "RemovingDuration=1234567", "DpiRatio=1.25",
           "Geometry=@Rect(-12 34 5678 90)", "\n1.500 -2.250 1000.125 300.000\n",
-          "47099000-86399999 ようこそ.zstg\n"}) {
+          "47099000-86399999 ようこそ.zstg\n", "00:00:00 01:30:30 24:00:00 --:--:-- 00:00\n00:15\n",
+          "\n23:45\n24:00\n"}) {
         QVERIFY2(m_expected.contains(text), text);
     }
     for (const char *failure : {"unreadable", "not kept", "not written", "not read", "no folder"})

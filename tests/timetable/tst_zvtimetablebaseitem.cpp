@@ -187,7 +187,8 @@ void tst_ZvTimeTableBaseItem::readsTheTimeAtAPosition()
 void tst_ZvTimeTableBaseItem::readsEverySecond()
 {
     for (int second = 0; second < 86400; ++second) {
-        const QString text = QTime(0, 0).addSecs(second).toString(QStringLiteral("hh:mm:ss"));
+        const QString text =
+            QLocale::c().toString(QTime(0, 0).addSecs(second), QStringLiteral("hh:mm:ss"));
         QCOMPARE(m_table->base()->timeStringAt(QPointF(0.0, 10.0 + second / 60.0)), text);
     }
 }

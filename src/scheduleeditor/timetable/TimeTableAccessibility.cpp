@@ -11,6 +11,7 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QLocale>
 #include <QPointer>
 #include <QStringList>
 
@@ -36,7 +37,8 @@ QString spokenTime(QTime time)
     const int milliseconds = time.msecsSinceStartOfDay() + truncatedMilliseconds;
     return milliseconds >= TimeAxis::millisecondsPerDay
                ? QStringLiteral("24:00:00")
-               : QTime::fromMSecsSinceStartOfDay(milliseconds).toString(QStringLiteral("hh:mm:ss"));
+               : QLocale::c().toString(QTime::fromMSecsSinceStartOfDay(milliseconds),
+                                       QStringLiteral("hh:mm:ss"));
 }
 
 /// A band. It is the cache's, which deletes it with the band.

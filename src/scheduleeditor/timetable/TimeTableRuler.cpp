@@ -2,6 +2,8 @@
 
 #include "timetable/TimeAxis.h"
 
+#include <QLocale>
+
 namespace Zavo {
 
 namespace {
@@ -61,7 +63,8 @@ QString TimeTableRuler::labelOf(const TimeTableRulerLine &line) const
         return QStringLiteral("24:00");
     if (line.kind == TimeTableRulerLine::Part && m_verticalScale < leastScaleOfPartLabels)
         return {};
-    return line.time.toString(QStringLiteral("hh:mm"));
+    // In the digits of 24:00, whatever those of the system are.
+    return QLocale::c().toString(line.time, QStringLiteral("hh:mm"));
 }
 
 void TimeTableRuler::layLabels()

@@ -6,6 +6,7 @@
 
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QLocale>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <QTimer>
@@ -49,7 +50,8 @@ QString ZvTimeTableBaseItem::timeStringAt(const QPointF &pos) const
         return QStringLiteral("24:00:00");
     if (!(seconds >= 0.0 && seconds < secondsPerDay))
         return QStringLiteral("--:--:--");
-    return QTime(0, 0).addSecs(static_cast<int>(seconds)).toString(QStringLiteral("hh:mm:ss"));
+    const QTime time = QTime(0, 0).addSecs(static_cast<int>(seconds));
+    return QLocale::c().toString(time, QStringLiteral("hh:mm:ss"));
 }
 
 void ZvTimeTableBaseItem::addTimeZone(ZvTimeTableTimeZoneItem *zone)
