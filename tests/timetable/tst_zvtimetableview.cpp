@@ -61,6 +61,7 @@ private Q_SLOTS:
     void widthSetsTheHorizontalScale_data();
     void widthSetsTheHorizontalScale();
     void noticeCoversTheView();
+    void noticeLeavesTheScrollBarFreeFromRightToLeft();
     void keysMoveByOnePixel_data();
     void keysMoveByOnePixel();
     void keysMoveAGroup();
@@ -193,6 +194,18 @@ void tst_ZvTimeTableView::noticeCoversTheView()
     table.view()->setNoScheduleLabelVisible(false);
     const QImage open = table.view()->grab().toImage();
     QVERIFY(covered.pixelColor(20, 20).lightness() < open.pixelColor(20, 20).lightness() - 60);
+}
+
+void tst_ZvTimeTableView::noticeLeavesTheScrollBarFreeFromRightToLeft()
+{
+    TimeTableFixture table;
+    const QWidget *viewport = table.view()->viewport();
+    table.view()->setLayoutDirection(Qt::RightToLeft);
+    table.view()->setNoScheduleLabelVisible(true);
+    table.view()->resize(500, 300);
+    QVERIFY(viewport->x() >= table.view()->verticalScrollBar()->width());
+    QCOMPARE(noticeOf(table.view())->x(), viewport->x());
+    QCOMPARE(noticeOf(table.view())->size(), viewport->size());
 }
 
 void tst_ZvTimeTableView::keysMoveByOnePixel_data()

@@ -105,6 +105,8 @@ void ZvTimeTableView::setHorizontalScale(double scale)
 
 void ZvTimeTableView::resizeEvent(QResizeEvent *event)
 {
+    // From right to left the scroll bar stands on the left.
+    m_noScheduleLabel->move(isRightToLeft() ? viewport()->x() : 0, 0);
     m_noScheduleLabel->resize(event->size());
     const double width = event->size().width() * shareOfWidth;
     setHorizontalScale(width <= widthAtUnitScale ? 1.0 : width / widthAtUnitScale);
