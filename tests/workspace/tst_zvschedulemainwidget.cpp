@@ -48,6 +48,7 @@ private Q_SLOTS:
     void pagesLeaveTheirScenes();
     void closeButtonAsksToClose();
     void pageBringsItsTabToTheFront();
+    void pagesAreStyledWhenTheyAreSeen();
     void hundredChannels();
 };
 
@@ -389,6 +390,32 @@ void tst_ZvScheduleMainWidget::pageBringsItsTabToTheFront()
     QCOMPARE(main.tabs()->currentIndex(), 1);
     main.widget->activeTab(99);
     QCOMPARE(main.tabs()->currentIndex(), 1);
+}
+
+// What its view and its bar style in making themselves does not count.
+bool isStyled(const QWidget *page)
+{
+    const auto *header = page->findChild<QWidget *>(QStringLiteral("HeaderWidget"));
+    return header && header->testAttribute(Qt::WA_WState_Polished);
+}
+
+void tst_ZvScheduleMainWidget::pagesAreStyledWhenTheyAreSeen()
+{
+    MainWidgetFixture main;
+    main.widget->resize(800, 600);
+    main.widget->show();
+    main.createTabs({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
+                     QStringLiteral("d")});
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(isStyled(main.area(0)));
+    // One of the unseen ones answers for all when the bar asks for their sizes.
+    int styled = 0;
+    for (int i = 1; i < 4; ++i)
+        styled += isStyled(main.area(i)) ? 1 : 0;
+    QVERIFY2(styled <= 1, qPrintable(QString::number(styled)));
+
+    main.tabs()->setCurrentIndex(3);
+    QVERIFY(isStyled(main.area(3)));
 }
 
 void tst_ZvScheduleMainWidget::hundredChannels()

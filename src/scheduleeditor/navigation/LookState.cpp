@@ -8,8 +8,13 @@ namespace Zavo {
 
 void setLookState(QWidget *widget, const char *property, bool on)
 {
-    widget->setProperty(property, on);
-    widget->style()->polish(widget);
+    const QVariant state(on);
+    if (widget->property(property) == state)
+        return;
+    widget->setProperty(property, state);
+    // Who was not styled yet will be when it is shown.
+    if (widget->testAttribute(Qt::WA_WState_Polished))
+        widget->style()->polish(widget);
 }
 
 } // namespace Zavo

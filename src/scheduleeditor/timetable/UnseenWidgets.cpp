@@ -7,6 +7,8 @@ namespace Zavo {
 
 UnseenWidgets::UnseenWidgets(QWidget *page)
 {
+    // A page that is styled styles its children, too.
+    page->installEventFilter(this);
     const QList<QWidget *> children = page->findChildren<QWidget *>();
     for (QWidget *child : children)
         child->installEventFilter(this);
