@@ -285,12 +285,21 @@ void tst_SwitcherChannel::executedStartsWithTheDefault()
     auto *name = display.layout()->itemAt(1)->widget();
     QCOMPARE(name->objectName(), QStringLiteral("zv_schedule_executed_name"));
     QCOMPARE(name->layout()->contentsMargins(), QMargins());
+    QCOMPARE(name->styleSheet(),
+             QStringLiteral("QWidget#zv_schedule_executed_name{margin-left: 5px;padding: 5px;"
+                            "border-style: solid;border-width: 1px;border-color: darkgray;"
+                            "border-radius: 2px;background-color: rgb(240, 240, 240);}"));
     auto *caption = qobject_cast<QLabel *>(name->layout()->itemAt(0)->widget());
     QCOMPARE(caption->text(), QStringLiteral("Schedule:"));
+    QCOMPARE(caption->styleSheet(),
+             QStringLiteral("padding: 5px;padding-right: 0px;margin-left:5px;"));
     auto *schedule = qobject_cast<QLabel *>(name->layout()->itemAt(1)->widget());
     QCOMPARE(schedule->text(), QStringLiteral("DEFAULT"));
     QCOMPARE(schedule->styleSheet(), QStringLiteral("color: orange;"));
-    QVERIFY(name->layout()->itemAt(2)->spacerItem());
+    const QSpacerItem *spacer = name->layout()->itemAt(2)->spacerItem();
+    QVERIFY(spacer);
+    QCOMPARE(spacer->sizeHint(), QSize(16, 16));
+    QCOMPARE(spacer->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum));
 }
 
 void tst_SwitcherChannel::executedFollowsThePrecedence_data()

@@ -2,12 +2,12 @@
 #include "TimeBoxes.h"
 #include "WorkingAreaFixture.h"
 
-#include "domain/ToolButtonStyle.h"
 #include "timetable/ZvScheduleItemPropertyWidget.h"
 
 #include "ZvSystemInfo.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QToolButton>
@@ -16,6 +16,14 @@ using namespace Zavo;
 using namespace ZavoTest;
 
 namespace {
+
+const QString toolButtonStyle = QStringLiteral(
+    "QToolButton{border-style: none;margin: 1px;color: black;}QToolButton:hover{background-color: "
+    "rgb(240, 240, 250);border-style: solid;border-color: rgb(190, 190, 200);border-width: 1px;"
+    "border-radius: 2px;}QToolButton:pressed, QToolButton::menu-button{background-color: rgb(204, "
+    "204, 255);border-style: solid;border-color: rgb( 180, 180, 180);border-width: 1px;"
+    "border-radius: 2px;}QToolButton::menu-indicator{width:7px;height:7px;left:1px;top:1px;}"
+    "QToolButton::menu-indicator:pressed{left:0px;top:0px;}");
 
 // Bands at both ends of the day, adjoining ones, and gaps.
 QList<ZvTime> someBands()
@@ -136,7 +144,7 @@ void tst_ZvScheduleItemPropertyWidget::construction()
         QVERIFY(!button->autoRaise());
         QVERIFY(!button->icon().pixmap(16).isNull());
         QCOMPARE(button->iconSize(), QSize(16, 16));
-        QCOMPARE(button->parentWidget()->styleSheet(), QLatin1String(ToolButtonStyle));
+        QCOMPARE(button->parentWidget()->styleSheet(), toolButtonStyle);
     }
     const PanelFixture fixture;
     QCOMPARE(fixture.stageLabel()->styleSheet(),
@@ -144,6 +152,19 @@ void tst_ZvScheduleItemPropertyWidget::construction()
     QCOMPARE(fixture.stageLabel()->minimumSize(), QSize(24, 24));
     QCOMPARE(fixture.stageLabel()->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(fixture.stageLabel()->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+
+    const QLayout *content = panel.widget()->layout();
+    const QLayout *topRow = content->itemAt(0)->layout();
+    QVERIFY(topRow);
+    QCOMPARE(topRow->contentsMargins(), QMargins());
+    QCOMPARE(topRow->spacing(), 0);
+    QCOMPARE(topRow->itemAt(1)->widget(), buttons.at(0)->parentWidget());
+    const QWidget *times = content->itemAt(2)->widget();
+    QVERIFY(times);
+    QCOMPARE(times->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred));
+    QVERIFY(qobject_cast<QGridLayout *>(times->layout()));
+    QCOMPARE(times->layout()->contentsMargins(), QMargins());
+    QVERIFY(content->itemAt(3)->spacerItem());
 }
 
 void tst_ZvScheduleItemPropertyWidget::iconsFollowTheScreen()
