@@ -2,6 +2,8 @@
 
 #include "editor/ScheduleDocks.h"
 
+#include <QSignalSpy>
+
 using namespace Zavo;
 using namespace ZavoTest;
 
@@ -85,6 +87,7 @@ private Q_SLOTS:
     void toDefaultFromAnywhere();
     void toDefaultLeavesTheClosedPanelClosed();
     void toDefaultBeforeExecAndAfterClose();
+    void hostIsNotAskedToPlaceDocks();
     void windowMenuShowsWhatIsSeen();
     void windowMenuRows_data();
     void windowMenuRows();
@@ -295,6 +298,19 @@ void tst_ScheduleDocks::toDefaultLeavesTheClosedPanelClosed()
     host.item()->show();
     host.settle();
     QCOMPARE(host.window->dockWidgetArea(host.item()), Qt::RightDockWidgetArea);
+}
+
+void tst_ScheduleDocks::hostIsNotAskedToPlaceDocks()
+{
+    DockHost host;
+    QSignalSpy asked(host.editor, SIGNAL(requestRestoreDockWidgetSetting(bool)));
+    QSignalSpy askedBriefly(host.editor, SIGNAL(requestRestoreDockWidgetSetting()));
+    QVERIFY(asked.isValid());
+    QVERIFY(askedBriefly.isValid());
+    QVERIFY(host.startSettled());
+    host.toDefault();
+    host.editor->close();
+    QCOMPARE(asked.count() + askedBriefly.count(), 0);
 }
 
 void tst_ScheduleDocks::toDefaultBeforeExecAndAfterClose()
