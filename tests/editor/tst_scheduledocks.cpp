@@ -3,6 +3,7 @@
 #include "editor/ScheduleDocks.h"
 
 #include <QSignalSpy>
+#include <QSplitter>
 
 using namespace Zavo;
 using namespace ZavoTest;
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void changedSizeOfNothing();
     void toDefaultFromAnywhere();
     void toDefaultLeavesTheClosedPanelClosed();
+    void toDefaultSizesThePreview();
     void toDefaultBeforeExecAndAfterClose();
     void hostIsNotAskedToPlaceDocks();
     void windowMenuShowsWhatIsSeen();
@@ -298,6 +300,19 @@ void tst_ScheduleDocks::toDefaultLeavesTheClosedPanelClosed()
     host.item()->show();
     host.settle();
     QCOMPARE(host.window->dockWidgetArea(host.item()), Qt::RightDockWidgetArea);
+}
+
+void tst_ScheduleDocks::toDefaultSizesThePreview()
+{
+    DockHost host;
+    QVERIFY(host.startSettled());
+    auto *splitter = host.chooser()->findChild<QSplitter *>();
+    const QList<int> atStart = splitter->sizes();
+    splitter->setSizes({atStart.at(0) / 2, atStart.at(1) + atStart.at(0) / 2});
+    host.settle();
+    QVERIFY(splitter->sizes() != atStart);
+    host.toDefault();
+    QTRY_COMPARE(splitter->sizes(), atStart);
 }
 
 void tst_ScheduleDocks::hostIsNotAskedToPlaceDocks()
