@@ -67,6 +67,7 @@ private Q_SLOTS:
     void endsBeforeTheNextCommand();
     void goesToItsTab();
     void ofADeletedChannel();
+    void startedAgainWithARefusedName();
     void widgetDiesBehindTheRefusal_data();
     void widgetDiesBehindTheRefusal();
 };
@@ -392,6 +393,23 @@ void tst_ChannelRename::ofADeletedChannel()
     QTest::keyClick(editorOf(main), Qt::Key_Return);
     QCOMPARE(request.count(), 0);
     QCOMPARE(main.tabTexts(), (QStringList{Names[0], Names[2]}));
+}
+
+void tst_ChannelRename::startedAgainWithARefusedName()
+{
+    MainWidgetFixture main;
+    main.createTabs(Names);
+    main.widget->show();
+    main.widget->toEditTabName();
+    QTest::keyClicks(editorOf(main), Names[2]);
+    MessageBoxAnswer answer;
+    answer.expect(QMessageBox::Ok).text(takenText(Names[2]));
+    main.widget->toEditTabName();
+    QVERIFY(answer.isDone());
+    QVERIFY(editorOf(main));
+    editorOf(main)->hide();
+    QVERIFY(!editorOf(main));
+    QCOMPARE(main.tabTexts(), Names);
 }
 
 void tst_ChannelRename::widgetDiesBehindTheRefusal_data()

@@ -163,6 +163,11 @@ void ZvScheduleTabWidget::correctFirstTab(int curIndex, int orgIndex)
 
 void ZvScheduleTabWidget::editTabNameRequested()
 {
+    const QPointer<ZvScheduleTabWidget> self(this);
+    finishEditing();
+    // The message about a refused name has opened the editor again, or this has gone behind it.
+    if (!self || (m_editor && m_editor->isVisible()))
+        return;
     const int index = tabBar()->currentIndex();
     if (index < 0)
         return;
