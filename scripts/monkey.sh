@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Uses the whole window at random under the sanitizers: 100 seeds of 20,000 events, or as told:
-# monkey.sh [SEEDS [EVENTS [FIRST_SEED]]]. The log of a seed that failed stays in build/monkey.
+# monkey.sh [SEEDS [EVENTS [FIRST_SEED]]]. The log of a seed that failed stays in build/monkey. With
+# QT_QPA_PLATFORM=xcb the window is on the display that DISPLAY names, and a run does not repeat itself.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -31,6 +32,6 @@ export logs events
 export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen} LC_ALL=C.UTF-8 HOME=$home
 export XDG_RUNTIME_DIR=$home/run XDG_CONFIG_HOME=$home/config
 export UBSAN_OPTIONS=print_stacktrace=1
-export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=0}
+export LSAN_OPTIONS=suppressions=$PWD/cmake/leaks.supp:print_suppressions=0
 
 seq "$first" $((first + seeds - 1)) | xargs -P "$(nproc)" -I {} bash -c 'run_seed {}'

@@ -12,9 +12,13 @@
 #include "workspace/ZvScheduleMainWidget.h"
 #include "workspace/ZvScheduleTabWidget.h"
 
+#include <QCalendarWidget>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QDirIterator>
+#include <QKeyEvent>
+#include <QTableView>
 
 using namespace Zavo;
 
@@ -52,6 +56,20 @@ void MonkeyHouse::close()
 {
     m_window.reset();
     m_isClosed = true;
+}
+
+// A calendar that goes while a date is typed loses the validator of that date, which Qt made. So
+// let the typing end before.
+void MonkeyHouse::onFinished()
+{
+    m_isClosed = true;
+    const auto calendars = m_window->findChildren<QCalendarWidget *>();
+    for (const QCalendarWidget *calendar : calendars) {
+        if (auto *page = calendar->findChild<QTableView *>()) {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(page, &escape);
+        }
+    }
 }
 
 void MonkeyHouse::openOnDesktop(const QUrl &url)

@@ -61,7 +61,7 @@ public Q_SLOTS:
     void openOnDesktop(const QUrl &url);
 
 private Q_SLOTS:
-    void onFinished() { m_isClosed = true; }
+    void onFinished();
 
 private:
     TemporaryDataFolder m_data;
