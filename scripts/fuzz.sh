@@ -24,8 +24,9 @@ fuzz_target() {
   local name=$1 log=$build/$1.log
   local kept=fuzz/corpus/$name new=$build/corpus/$name
   mkdir -p "$new"
+  # To choose inputs by the rarity of what they reach takes most of the time with a large corpus.
   if "$build/fuzz/$name" -seed="$seed" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=512 -max_len=4096 \
-    -use_value_profile=1 -print_final_stats=1 -artifact_prefix="$build/found/$name-" \
+    -use_value_profile=1 -entropic=0 -print_final_stats=1 -artifact_prefix="$build/found/$name-" \
     "$new" "$kept" >"$log" 2>&1; then
     echo "$name: $(sed -n 's/^stat::\(number_of_executed_units\|slowest_unit_time_sec\|peak_rss_mb\): */ /p' \
       "$log" | tr -d '\n' | awk '{print $1 " inputs, the slowest " $2 " s, " $3 " MiB"}')"
