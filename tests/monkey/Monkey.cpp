@@ -10,6 +10,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QDialog>
+#include <QDrag>
 #include <QUndoStack>
 #include <QWindow>
 #include <QtTest>
@@ -187,8 +188,11 @@ void Monkey::answer()
         return;
     QWidget *popup = QApplication::activePopupWidget();
     QWidget *asked = popup ? popup : QApplication::activeModalWidget();
-    if (!asked)
+    if (!asked) {
+        // A drag out of the window, if there is one, waits for the hand that is in it.
+        QDrag::cancel();
         return;
+    }
     // How often this comes is a matter of time; what follows the dialog must not depend on it.
     if (m_answerDepth++ == 0)
         std::swap(m_choice, m_dialogChoice);
