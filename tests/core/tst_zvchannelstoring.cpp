@@ -38,7 +38,8 @@ QStringList exact(const QList<ZvTime> &bands)
     QStringList result;
     for (const ZvTime &band : bands)
         result.append(QLocale::c().toString(band.startTime(), QStringLiteral("hh:mm:ss.zzz")) +
-                      band.endTime().toString(QStringLiteral("-hh:mm:ss.zzz ")) + band.stageName());
+                      QLocale::c().toString(band.endTime(), QStringLiteral("-hh:mm:ss.zzz ")) +
+                      band.stageName());
     return result;
 }
 

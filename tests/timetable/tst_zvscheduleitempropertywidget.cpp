@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QGridLayout>
+#include <QLocale>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QToolButton>
@@ -96,6 +97,8 @@ class tst_ZvScheduleItemPropertyWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The boxes show the digits of the language, and the tests tell them in these.
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void construction();
     void iconsFollowTheScreen();
     void nothingSelected();

@@ -1,6 +1,7 @@
 #include "TimeBoxes.h"
 
 #include <QLayout>
+#include <QLocale>
 #include <QSignalSpy>
 
 using namespace Zavo;
@@ -36,6 +37,8 @@ class tst_ZvTimeSpinWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The boxes show the digits of the language, and the tests tell them in these.
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void boxAtTheStart();
     void hourBox();
     void boxWraps_data();
