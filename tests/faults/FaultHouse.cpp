@@ -227,6 +227,12 @@ void FaultHouse::editEverything() const
     main()->activeTab(0);
 }
 
+void FaultHouse::settle() const
+{
+    QCoreApplication::processEvents();
+    m_window->setUpdatesEnabled(false);
+}
+
 ChannelsById FaultHouse::channels() const
 {
     ChannelsById channels;

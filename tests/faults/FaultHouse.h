@@ -83,6 +83,10 @@ public:
     /// Gives every channel another name, another default stage and other bands, without saving.
     void editEverything() const;
 
+    /// Does what is still to be done by the event loop, and has the window drawn no more: each
+    /// process that is forked would do all that again, which takes half of its time.
+    void settle() const;
+
     /// The channels as they are in the window, what is on show included.
     ChannelsById channels() const;
 

@@ -292,6 +292,10 @@ Operation restore(const FaultHouse &house, int number)
                 QString wrong = checkFilesAreUntouched(outcome, in, changed);
                 if (wrong.isEmpty())
                     wrong = checkChannels(outcome, in, old, expected, NotRestored);
+                // The next start shows it; nothing looks at its copy once the window is closed.
+                if (wrong.isEmpty() && outcome.isDone && !outcome.tells(NotRestored) &&
+                    !isSame(in.freshStart().value_or(old), expected, number))
+                    wrong = QStringLiteral("it is not restored, and nobody was told");
                 const bool copyWentWrong = outcome.isDone && FaultyFiles::haveStruck();
                 const bool isReplaced = outcome.files.value(path) != present;
                 if (wrong.isEmpty() && isReplaced && !copyWentWrong &&

@@ -57,6 +57,7 @@ public:
             qFatal("the window does not start");
         m_house.editEverything();
         m_operations = allOperations(m_house);
+        m_house.settle();
         if (m_parser.isSet(QStringLiteral("calls")))
             everyCall();
         const int pages = number(m_parser, QStringLiteral("full-disk"));
@@ -122,6 +123,7 @@ private:
         m_house.layOut(m_house.sample(), users().first());
         m_house.open();
         m_house.editEverything();
+        m_house.settle();
     }
 
     void killed(uid_t user, int rounds)
