@@ -43,6 +43,7 @@ private Q_SLOTS:
     void standsTheLackOfAChannel();
     void deletesItsChannels();
     void standsItsDeathUnderAMessage();
+    void standsItsDeathWhileATableIsFilled();
 };
 
 void tst_ZvScheduleWorkingAreaLifecycle::reportsTheSelectionLater()
@@ -311,6 +312,18 @@ void tst_ZvScheduleWorkingAreaLifecycle::standsItsDeathUnderAMessage()
     delete page.area()->takeScene();
     QTimer::singleShot(0, page.area(), [&page] { page.destroy(); });
     page.area()->onWarningErrorOccured(QStringLiteral("late"));
+    QVERIFY(!page.area());
+}
+
+void tst_ZvScheduleWorkingAreaLifecycle::standsItsDeathWhileATableIsFilled()
+{
+    WorkingAreaFixture page({scheduleOf(defaultInfo, bands)});
+    // A band without a place is told of by a message.
+    page.channel()->scheduleList()[0].setTimeList(bands + bands);
+    connect(page.area(), &TimeTablePage::graphicsScenePurged,
+            [](const QGraphicsScene *scene) { delete scene; });
+    QTimer::singleShot(0, page.area(), [&page] { page.destroy(); });
+    page.area()->switchToDefaultSchedule();
     QVERIFY(!page.area());
 }
 

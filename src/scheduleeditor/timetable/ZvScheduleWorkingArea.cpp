@@ -12,6 +12,7 @@
 #include "timetable/ZvTimeTableTimeZoneItem.h"
 
 #include <QDate>
+#include <QPointer>
 #include <QUndoStack>
 
 namespace Zavo {
@@ -151,7 +152,12 @@ void ZvScheduleWorkingArea::switchToScheduleInfo(const ZvScheduleBasicInfo &info
                              info.type() == ZvSchedule::Date ||
                              info.type() == ZvSchedule::DayOfWeek;
     setTitle(isKnownType ? scheduleText(info) : tr("Unknown"));
-    setScheduleEnabled(switchSchedule(ChannelSchedules::find(m_channel.get(), info)));
+    // A message about a band runs an event loop.
+    const QPointer<ZvScheduleWorkingArea> self(this);
+    const bool isFilled = switchSchedule(ChannelSchedules::find(m_channel.get(), info));
+    if (!self)
+        return;
+    setScheduleEnabled(isFilled);
     Q_EMIT currentScheduleInfoChanged(info);
 }
 
