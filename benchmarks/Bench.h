@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <limits>
 
 /// What the benchmark programs share: pairs of our work and the limit that it is held against,
 /// measured in turn in one process, and a table of their ratios. Times are in milliseconds.
@@ -54,12 +55,15 @@ double measureProcessor(const Work &work)
     return now() - start;
 }
 
+/// The goal of a line that is there to be read.
+constexpr double NoGoal = std::numeric_limits<double>::infinity();
+
 /// One line of the table: an operation on n things.
 struct Row
 {
     QString operation;
     int n = 0;
-    double goal = 0; ///< largest ratio of ours to the limit that holds
+    double goal = 0; ///< largest ratio of ours to the limit that holds; NoGoal for any
 };
 
 class Table
@@ -110,9 +114,12 @@ private:
     {
         const bool holds = ratio.median <= row.goal;
         m_missed += holds ? 0 : 1;
-        std::printf("%-44s %7d %11.4f %11.4f %8.4f %8.4f-%8.4f %8.3f %s\n",
-                    qUtf8Printable(row.operation), row.n, limit, own, ratio.median, ratio.lower,
-                    ratio.upper, row.goal, holds ? "yes" : "NO");
+        std::printf("%-44s %7d %11.4f %11.4f %8.4f %8.4f-%8.4f ", qUtf8Printable(row.operation),
+                    row.n, limit, own, ratio.median, ratio.lower, ratio.upper);
+        if (row.goal == NoGoal)
+            std::printf("%8s -\n", "-");
+        else
+            std::printf("%8.3f %s\n", row.goal, holds ? "yes" : "NO");
         std::fflush(stdout);
     }
 
