@@ -49,6 +49,7 @@ private Q_SLOTS:
     void closeButtonAsksToClose();
     void pageBringsItsTabToTheFront();
     void pagesAreStyledWhenTheyAreSeen();
+    void tabsAreMeasuredInTheFontThatTheyKeep();
     void hundredChannels();
 };
 
@@ -416,6 +417,22 @@ void tst_ZvScheduleMainWidget::pagesAreStyledWhenTheyAreSeen()
 
     main.tabs()->setCurrentIndex(3);
     QVERIFY(isStyled(main.area(3)));
+}
+
+// The bar takes the font of a shown one a moment after it is shown; its tabs may come before.
+void tst_ZvScheduleMainWidget::tabsAreMeasuredInTheFontThatTheyKeep()
+{
+    MainWidgetFixture main;
+    main.widget->resize(800, 600);
+    main.widget->show();
+    const QTabBar *bar = main.tabs()->tabBar();
+    QCOMPARE(bar->font().pointSizeF(), 8.9);
+    main.createTabs({QStringLiteral("a"), QStringLiteral("b")});
+    QCOMPARE(bar->font().pointSizeF(), 9.0);
+    const QRect first = bar->tabRect(0);
+    QTest::qWait(5);
+    QCOMPARE(bar->font().pointSizeF(), 9.0);
+    QCOMPARE(bar->tabRect(0), first);
 }
 
 void tst_ZvScheduleMainWidget::hundredChannels()

@@ -8,6 +8,7 @@
 #include "workspace/ScheduleToolBar.h"
 #include "workspace/WorkspaceNames.h"
 #include "workspace/ZvScheduleTabWidget.h"
+#include "workspace/ZvTabBar.h"
 
 #include "ZvChannel.h"
 #include "ZvEditorConfig.h"
@@ -16,7 +17,6 @@
 #include <QEvent>
 #include <QGraphicsScene>
 #include <QMenu>
-#include <QTabBar>
 #include <QTimer>
 #include <QUndoGroup>
 #include <QVBoxLayout>
@@ -157,6 +157,8 @@ void ZvScheduleMainWidget::addChannels(const QList<ZvChannel *> &channels)
 {
     const HiddenMeanwhile hidden(m_tabWidget);
     moveTabOrderToEnd(m_tabWidget);
+    if (auto *bar = qobject_cast<ZvTabBar *>(m_tabWidget->tabBar()))
+        bar->takeShownLook();
     m_areaById.clear();
     for (ZvChannel *channel : channels)
         addChannel(channel);

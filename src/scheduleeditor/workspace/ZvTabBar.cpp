@@ -39,6 +39,7 @@ bool ZvTabBar::event(QEvent *event)
 {
     if (event->type() == QEvent::ShowToParent) {
         qDebug() << "ShowToParent: " << iconSize();
+        m_shownLookDue = true;
         QTimer::singleShot(ShownLookDelay, this, SLOT(applyShownLook()));
     } else if (event->type() == QEvent::Resize) {
         applyResizedLook();
@@ -51,8 +52,15 @@ QSize ZvTabBar::tabSizeHint(int index) const
     return QTabBar::tabSizeHint(index);
 }
 
+void ZvTabBar::takeShownLook()
+{
+    if (m_shownLookDue)
+        applyShownLook();
+}
+
 void ZvTabBar::applyShownLook()
 {
+    m_shownLookDue = false;
     const double ratio = ZvSystemInfo::getDpiRatio(this);
     setFont(fontOfSize(font(), ShownPointSize));
     setScrollerWidth(ratio * ShownScrollButtonWidth * ScrollButtonCount);

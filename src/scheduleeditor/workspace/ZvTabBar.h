@@ -15,6 +15,10 @@ public:
 
     bool event(QEvent *event) override;
 
+    /// Takes the look of a shown bar now if it was shown and is about to take it. Who adds many tabs
+    /// saves that they are measured twice, in two fonts.
+    void takeShownLook();
+
 protected:
     QSize tabSizeHint(int index) const override;
 
@@ -27,6 +31,7 @@ private:
 
     QSizeF m_baseIconSize{16.0, 16.0};
     double m_dpiRatio = 1.0;
+    bool m_shownLookDue = false;
 };
 
 } // namespace Zavo
