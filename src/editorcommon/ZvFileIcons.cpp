@@ -9,8 +9,7 @@ constexpr int c_maximumSuffixes = 256;
 }
 
 ZvFileIcons::ZvFileIcons()
-    : m_folderIcon(m_provider.icon(QFileIconProvider::Folder))
-    , m_iconOfSuffix(c_maximumSuffixes)
+    : m_iconOfSuffix(c_maximumSuffixes)
     , m_typeOfSuffix(c_maximumSuffixes)
 {
 }
@@ -18,7 +17,7 @@ ZvFileIcons::ZvFileIcons()
 QIcon ZvFileIcons::icon(const QString &path, bool isDir) const
 {
     if (isDir)
-        return m_folderIcon;
+        return folderIcon();
     const QFileInfo info(path);
     const QString suffix = info.suffix().toCaseFolded();
     if (const QIcon *known = m_iconOfSuffix.object(suffix))
@@ -26,6 +25,14 @@ QIcon ZvFileIcons::icon(const QString &path, bool isDir) const
     const QIcon icon = m_provider.icon(info);
     m_iconOfSuffix.insert(suffix, new QIcon(icon));
     return icon;
+}
+
+// Few folders of stages have folders in them, and the provider reads the icon in every size.
+QIcon ZvFileIcons::folderIcon() const
+{
+    if (m_folderIcon.isNull())
+        m_folderIcon = m_provider.icon(QFileIconProvider::Folder);
+    return m_folderIcon;
 }
 
 QString ZvFileIcons::type(const QString &path, bool isDir) const

@@ -19,8 +19,10 @@ public:
     QString type(const QString &path, bool isDir) const;
 
 private:
+    QIcon folderIcon() const;
+
     QFileIconProvider m_provider;
-    QIcon m_folderIcon;
+    mutable QIcon m_folderIcon;
     mutable QCache<QString, QIcon> m_iconOfSuffix;
     mutable QCache<QString, QString> m_typeOfSuffix;
 };
