@@ -13,6 +13,7 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QMainWindow>
+#include <QMap>
 #include <QMenuBar>
 #include <QProcess>
 #include <QTabWidget>
@@ -45,10 +46,20 @@ QWidget *createBarePage()
     return page;
 }
 
-void addBarePages(QTabWidget *tabs, int count)
+/// The names of the channels that writeChannels() writes.
+QStringList plainTitles()
 {
-    for (int i = 0; i < count; ++i)
-        tabs->addTab(createBarePage(), QStringLiteral("Ch.%1").arg(i));
+    QStringList titles;
+    for (int i = 0; i < channelCount; ++i)
+        titles.append(QStringLiteral("Ch.%1").arg(i));
+    return titles;
+}
+
+/// The same titles as ours: to find fonts for the scripts of the world is the framework's work.
+void addBarePages(QTabWidget *tabs, const QStringList &titles)
+{
+    for (const QString &title : titles)
+        tabs->addTab(createBarePage(), title);
 }
 
 /// A shown widget that is measured while it is filled. The scenes of its pages go with it.
@@ -71,7 +82,7 @@ double bareTabs()
     QTabWidget tabs;
     show(&tabs);
     return measure([&tabs] {
-        addBarePages(&tabs, channelCount);
+        addBarePages(&tabs, plainTitles());
         QCoreApplication::processEvents();
     });
 }
@@ -90,11 +101,11 @@ double ownTabs()
 }
 
 /// Shows a window of empty pages.
-void openBareWindow(QMainWindow *window, int pageCount)
+void openBareWindow(QMainWindow *window, const QStringList &titles)
 {
     auto *tabs = new QTabWidget;
     window->setCentralWidget(tabs);
-    addBarePages(tabs, pageCount);
+    addBarePages(tabs, titles);
     show(window);
 }
 
@@ -116,10 +127,10 @@ ZvScheduleEditor *openOwnWindow(QMainWindow *window, int pageCount)
     return editor;
 }
 
-double bareStart(int pageCount)
+double bareStart(const QStringList &titles)
 {
     QMainWindow window;
-    return measure([&] { openBareWindow(&window, pageCount); });
+    return measure([&] { openBareWindow(&window, titles); });
 }
 
 double ownStart(int pageCount)
@@ -138,13 +149,13 @@ double ownStart(int pageCount)
 }
 
 /// The life of a program of its own until its window is idle, the timers of its start included.
-[[noreturn]] void liveAlone(bool plain, int pageCount)
+[[noreturn]] void liveAlone(bool plain, const QStringList &titles)
 {
     QMainWindow window;
     if (plain)
-        openBareWindow(&window, pageCount);
+        openBareWindow(&window, titles);
     else
-        openOwnWindow(&window, pageCount);
+        openOwnWindow(&window, titles.size());
     QTimer::singleShot(settlingTime, qApp, SLOT(quit()));
     QCoreApplication::exec();
     std::_Exit(0);
@@ -160,11 +171,11 @@ double processorTimeOfChildren()
     return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
-double programStart(bool plain)
+double programStart(bool plain, const QStringList &titles)
 {
-    QStringList arguments{QStringLiteral("--alone")};
-    if (plain)
-        arguments.append(QStringLiteral("--bare"));
+    QStringList arguments{QStringLiteral("--alone"), plain ? QStringLiteral("--bare")
+                                                           : QStringLiteral("--own")};
+    arguments.append(titles);
     const double before = processorTimeOfChildren();
     if (QProcess::execute(QCoreApplication::applicationFilePath(), arguments) != 0)
         qFatal("cannot start a program");
@@ -188,10 +199,19 @@ void writeChannels(const QString &dataDir)
     }
 }
 
-int countChannels(const QString &dataDir)
+/// What the tabs of a data folder are called, in their order.
+QStringList titlesOf(const QString &dataDir)
 {
     const QDir folder(Path::combine(dataDir, QStringLiteral("channel")));
-    return folder.entryList({QStringLiteral("channel?*.xml")}, QDir::Files).size();
+    const QStringList files = folder.entryList({QStringLiteral("channel?*.xml")}, QDir::Files);
+    QMap<int, QString> titles;
+    for (const QString &file : files) {
+        ZvChannel channel(folder.filePath(file));
+        if (!channel.readFile())
+            qFatal("cannot read %s", qPrintable(file));
+        titles.insert(channel.index(), channel.name());
+    }
+    return titles.values();
 }
 
 void beSilent(QtMsgType type, const QMessageLogContext &, const QString &message)
@@ -200,14 +220,14 @@ void beSilent(QtMsgType type, const QMessageLogContext &, const QString &message
         std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-void doOnce(const QString &name, bool plain, int pages)
+void doOnce(const QString &name, bool plain, const QStringList &titles)
 {
     // The first time warms up what a process has only once.
     for (int i = 0; i < 2; ++i) {
         if (name == QLatin1String("createTabs"))
             plain ? bareTabs() : ownTabs();
         else
-            plain ? bareStart(pages) : ownStart(pages);
+            plain ? bareStart(titles) : ownStart(titles.size());
     }
 }
 
@@ -224,9 +244,9 @@ int main(int argc, char *argv[])
     const bool plain = arguments.contains(QStringLiteral("--bare"));
     const QString examples = QStringLiteral(ZAVO_EXAMPLE_DATA);
     ZvEditorConfig::setDataDir(examples);
-    const int count = countChannels(examples);
     if (arguments.value(1) == QLatin1String("--alone"))
-        liveAlone(plain, count);
+        liveAlone(plain, arguments.mid(3));
+    const QStringList titles = titlesOf(examples);
 
     QTemporaryDir many;
     writeChannels(many.path());
@@ -234,17 +254,18 @@ int main(int argc, char *argv[])
         const QString name = arguments.value(2);
         if (name == QLatin1String("createTabs"))
             ZvEditorConfig::setDataDir(many.path());
-        doOnce(name, plain, count);
+        doOnce(name, plain, titles);
         return 0;
     }
 
     Bench::Table table(arguments);
     table.addFigures(
-        {QStringLiteral("start of the program / of a bare one"), count, startGoal},
-        [] { return programStart(true); }, [] { return programStart(false); });
+        {QStringLiteral("start of the program / of a bare one"), titles.size(), startGoal},
+        [&titles] { return programStart(true, titles); },
+        [&titles] { return programStart(false, titles); });
     table.addFigures(
-        {QStringLiteral("window in a running program / bare one"), count, startGoal},
-        [count] { return bareStart(count); }, [count] { return ownStart(count); });
+        {QStringLiteral("window in a running program / bare one"), titles.size(), startGoal},
+        [&titles] { return bareStart(titles); }, [&titles] { return ownStart(titles.size()); });
     ZvEditorConfig::setDataDir(many.path());
     table.addFigures({QStringLiteral("createTabs / as many bare pages"), channelCount, tabsGoal},
                      bareTabs, ownTabs);
