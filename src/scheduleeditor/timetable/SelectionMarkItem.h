@@ -12,6 +12,9 @@ public:
     SelectionMarkItem(const QRectF &rect, const QColor &color, QGraphicsItem *parent);
 
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+protected:
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
 };
 
 } // namespace Zavo

@@ -1,5 +1,6 @@
 #include "timetable/TimeTableTextItem.h"
 
+#include "timetable/MereNotice.h"
 #include "timetable/TimeTableFont.h"
 #include "timetable/TimeTableText.h"
 
@@ -51,6 +52,11 @@ void TimeTableTextItem::layOut()
     const std::shared_ptr<TimeTableText> old =
         std::exchange(m_text, TimeTableTexts::find(m_label, m_pixelSize));
     setDocument(&m_text->document);
+}
+
+QVariant TimeTableTextItem::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    return isMereNotice(change) ? QVariant() : QGraphicsTextItem::itemChange(change, value);
 }
 
 void TimeTableTextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,

@@ -3,6 +3,7 @@
 #include "timetable/BandMemory.h"
 #include "timetable/CosmeticOutline.h"
 #include "timetable/DrawnRange.h"
+#include "timetable/MereNotice.h"
 #include "timetable/TimeTableLabelPool.h"
 #include "timetable/ZvTimeTableTimeItemLabel.h"
 
@@ -263,6 +264,8 @@ QPointF ZvTimeTableTimeItem::limitedPosition(const QPointF &position) const
 
 QVariant ZvTimeTableTimeItem::itemChange(GraphicsItemChange change, const QVariant &value)
 {
+    if (isMereNotice(change))
+        return {};
     if (!scene())
         return QGraphicsObject::itemChange(change, value);
     switch (change) {

@@ -1,5 +1,7 @@
 #include "timetable/ZvTimeTableTimeItemResizeHandle.h"
 
+#include "timetable/MereNotice.h"
+
 #include <QPainter>
 #include <QPen>
 
@@ -44,6 +46,12 @@ void ZvTimeTableTimeItemResizeHandle::setHandleHeight(double height)
         return;
     prepareGeometryChange();
     m_handleHeight = height;
+}
+
+QVariant ZvTimeTableTimeItemResizeHandle::itemChange(GraphicsItemChange change,
+                                                     const QVariant &value)
+{
+    return isMereNotice(change) ? QVariant() : QGraphicsObject::itemChange(change, value);
 }
 
 void ZvTimeTableTimeItemResizeHandle::paint(QPainter *painter, const QStyleOptionGraphicsItem *,

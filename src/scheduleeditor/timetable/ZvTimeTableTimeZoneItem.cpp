@@ -3,6 +3,7 @@
 #include "ZvEditorCommon.h"
 #include "stages/ZvScheduleStageListView.h"
 #include "timetable/CosmeticOutline.h"
+#include "timetable/MereNotice.h"
 #include "timetable/StageDropPlan.h"
 #include "timetable/TimeAxis.h"
 #include "timetable/TimeTableAccessibility.h"
@@ -264,7 +265,10 @@ void ZvTimeTableTimeZoneItem::removeTimeItems(const QList<ZvTime> &times)
     const int countBefore = m_timeItems.count();
     {
         const BulkChange bulk(this);
-        qDeleteAll(m_timeItems.take(times));
+        const QList<ZvTimeTableTimeItem *> taken = m_timeItems.take(times);
+        if (taken.size() > m_timeItems.count())
+            repaintAsAWhole();
+        qDeleteAll(taken);
         m_timeItems.renumber();
     }
     if (m_timeItems.count() == countBefore)
@@ -278,9 +282,8 @@ void ZvTimeTableTimeZoneItem::removeAllTimeItems()
     const int countBefore = m_timeItems.count();
     {
         const BulkChange bulk(this);
-        // All is to be painted anew, so the views need not be told of each band.
-        if (scene() && countBefore != 0)
-            scene()->update();
+        if (countBefore != 0)
+            repaintAsAWhole();
         while (!m_timeItems.isEmpty())
             delete m_timeItems.takeLast();
     }
@@ -288,6 +291,13 @@ void ZvTimeTableTimeZoneItem::removeAllTimeItems()
         return;
     reportBands(false);
     Q_EMIT timeItemCountChanged(0);
+}
+
+// Where most of the table is to be painted anew, the views need not be told of each band.
+void ZvTimeTableTimeZoneItem::repaintAsAWhole()
+{
+    if (scene())
+        scene()->update();
 }
 
 // A single band that was just inserted is the one that is selected.
@@ -380,6 +390,11 @@ void ZvTimeTableTimeZoneItem::dropEvent(QGraphicsSceneDragDropEvent *event)
     event->setAccepted(!stageNames.isEmpty());
     if (!stageNames.isEmpty())
         insertStages(timeAtY(event->pos().y()), stageNames);
+}
+
+QVariant ZvTimeTableTimeZoneItem::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    return isMereNotice(change) ? QVariant() : QGraphicsObject::itemChange(change, value);
 }
 
 void ZvTimeTableTimeZoneItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)

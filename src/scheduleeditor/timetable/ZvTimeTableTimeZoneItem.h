@@ -106,6 +106,7 @@ Q_SIGNALS:
     void requestSelectionChanged();
 
 protected:
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
     void dragEnterEvent(QGraphicsSceneDragDropEvent *event) override;
     void dragLeaveEvent(QGraphicsSceneDragDropEvent *event) override;
     void dragMoveEvent(QGraphicsSceneDragDropEvent *event) override;
@@ -116,6 +117,7 @@ private:
 
     ZvTimeTableTimeItem *createTimeItem(const ZvTime &time, int index, double verticalScale);
     bool insertTimeItem(const ZvTime &time, double verticalScale);
+    void repaintAsAWhole();
     void reportBands(bool isOneNew) const;
 
     double m_margin = 10.0;
