@@ -173,8 +173,8 @@ double processorTimeOfChildren()
 
 double programStart(bool plain, const QStringList &titles)
 {
-    QStringList arguments{QStringLiteral("--alone"), plain ? QStringLiteral("--bare")
-                                                           : QStringLiteral("--own")};
+    QStringList arguments{QStringLiteral("--alone"),
+                          plain ? QStringLiteral("--bare") : QStringLiteral("--own")};
     arguments.append(titles);
     const double before = processorTimeOfChildren();
     if (QProcess::execute(QCoreApplication::applicationFilePath(), arguments) != 0)

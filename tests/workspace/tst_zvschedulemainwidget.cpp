@@ -405,8 +405,8 @@ void tst_ZvScheduleMainWidget::pagesAreStyledWhenTheyAreSeen()
     MainWidgetFixture main;
     main.widget->resize(800, 600);
     main.widget->show();
-    main.createTabs({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
-                     QStringLiteral("d")});
+    main.createTabs(
+        {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")});
     QCoreApplication::sendPostedEvents();
     QVERIFY(isStyled(main.area(0)));
     // One of the unseen ones answers for all when the bar asks for their sizes.

@@ -15,8 +15,8 @@ public:
 
     bool event(QEvent *event) override;
 
-    /// Takes the look of a shown bar now if it was shown and is about to take it. Who adds many tabs
-    /// saves that they are measured twice, in two fonts.
+    /// Takes the look of a shown bar now if it was shown and is about to take it. Who adds many
+    /// tabs saves that they are measured twice, in two fonts.
     void takeShownLook();
 
 protected:
