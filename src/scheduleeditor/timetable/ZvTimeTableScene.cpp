@@ -259,9 +259,15 @@ void ZvTimeTableScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
             freeMouse();
         return;
     }
-    QGraphicsScene::mouseReleaseEvent(event);
     // The event itself knows the press of the button that went down last only.
-    if (event->scenePos() != m_pressScenePos || event->pos() != m_pressPos || m_hasDragged)
+    const bool isAway = event->scenePos() != m_pressScenePos || event->pos() != m_pressPos;
+    // A band takes a release where it was pressed for a click and changes the selection, but what
+    // was moved is what was selected until then.
+    const bool hasDragged = m_hasDragged;
+    if (hasDragged)
+        reportDrag();
+    QGraphicsScene::mouseReleaseEvent(event);
+    if (isAway && !hasDragged)
         reportDrag();
 }
 
