@@ -17,12 +17,14 @@ if [[ "$group" == test || "$group" == lint ]]; then
   packages+=(
     # Read what the program exported.
     python3 poppler-utils
-  # An upload by ssh is tested with a server of its own.
-  openssh-client openssh-server
+    # An upload by ssh is tested with a server of its own.
+    openssh-client openssh-server
+    # Links the tests.
+    mold
     # A display for the test that copies from one program to another.
     xvfb
-  # Presses keys in a program on that display.
-  xdotool
+    # Presses keys in a program on that display.
+    xdotool
     # Make the packages, look at them and at what goes along with the program, and install it.
     hicolor-icon-theme file dpkg-dev fakeroot lintian desktop-file-utils appstream mandoc doxygen
   )
