@@ -93,6 +93,7 @@ private Q_SLOTS:
     void rightClickDuringADrag();
     void backToTheStartPastAnObstacle_data();
     void backToTheStartPastAnObstacle();
+    void rubberBandFromTheEdgeMovesNothing();
     void pageShowsAnotherScheduleByItself();
 
 private:
@@ -324,6 +325,22 @@ void tst_InterruptedMove::backToTheStartPastAnObstacle()
     QCOMPARE(tabs.first()->currentTimes(), mondayBands);
     tabs.widget()->redo();
     QCOMPARE(tabs.first()->currentTimes(), moved);
+}
+
+// Pressed on the pixel at the end of the band, which is no part of it any more.
+void tst_InterruptedMove::rubberBandFromTheEdgeMovesNothing()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("11:00:00")));
+    SceneMouse mouse(tabs.view());
+    mouse.press(QPointF(180.0, yOf("11:00:00")));
+    mouse.moveTo(QPointF(200.0, yOf("10:50:00")));
+    mouse.moveTo(QPointF(210.0, yOf("10:20:00")));
+    mouse.moveTo(QPointF(220.0, yOf("11:40:00")));
+    mouse.moveTo(QPointF(230.0, yOf("11:50:00")));
+    mouse.release();
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+    QCOMPARE(tabs.first()->undoStack()->count(), 0);
 }
 
 void tst_InterruptedMove::pageShowsAnotherScheduleByItself()

@@ -222,6 +222,10 @@ void ZvTimeTableScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
         m_dragMode = DragSelection;
     Q_EMIT mousePressed();
     QGraphicsScene::mousePressEvent(event);
+    // On its very edge a band is not hit, and a rubber band begins. That moves nothing, also when
+    // it selects the band again.
+    if (!event->isAccepted())
+        m_dragMode = NoDrag;
     if (event->buttons() == Qt::RightButton)
         freeMouse();
 }
