@@ -62,7 +62,7 @@ qint64 toldTime(clockid_t clock)
 /// Whether the thread is in the middle of something: it runs, or waits for the disk.
 bool isBusy(const char *thread)
 {
-    char path[64];
+    char path[288];
     std::snprintf(path, sizeof path, "/proc/self/task/%s/stat", thread);
     const int file = open(path, O_RDONLY | O_CLOEXEC);
     if (file < 0)
