@@ -2,8 +2,14 @@
 
 #include "timetable/TimeTableFont.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
+#include <QPainter>
 #include <QPointer>
+#include <QTextBlock>
+#include <QTextLayout>
+
+#include <cmath>
 
 namespace Zavo {
 
@@ -22,9 +28,32 @@ TimeTableText::TimeTableText(const QString &text, int pixelSize)
     document.setUndoRedoEnabled(false);
     document.setDefaultFont(font);
     document.setPlainText(text);
-    glyphs.setTextFormat(Qt::PlainText);
-    glyphs.setPerformanceHint(QStaticText::AggressiveCaching);
-    glyphs.setText(text);
+    m_isOneLine = document.blockCount() == 1;
+    m_glyphs.setTextFormat(Qt::PlainText);
+    m_glyphs.setPerformanceHint(QStaticText::AggressiveCaching);
+    m_glyphs.setText(text);
+}
+
+bool TimeTableText::paint(QPainter *painter)
+{
+    // Kept glyphs stand on other subpixels than the document's where a pixel is no whole number of
+    // device pixels, and all on one line.
+    const double pixelRatio = painter->deviceTransform().m11();
+    if (!m_isOneLine || pixelRatio != std::floor(pixelRatio))
+        return false;
+    const double margin = document.documentMargin();
+    m_ink.draw(painter, QPointF(margin, margin), m_glyphs, font, ascent());
+    return true;
+}
+
+double TimeTableText::ascent()
+{
+    if (m_ascent < 0.0) {
+        document.documentLayout()->documentSize(); // lays out what is not laid out yet
+        const QTextLayout *layout = document.firstBlock().layout();
+        m_ascent = layout->lineCount() > 0 ? layout->lineAt(0).ascent() : 0.0;
+    }
+    return m_ascent;
 }
 
 TimeTableTexts::TimeTableTexts(QObject *parent)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "timetable/KeptInk.h"
+
 #include <QFont>
 #include <QHash>
 #include <QObject>
@@ -13,13 +15,25 @@
 namespace Zavo {
 
 /// A plain text in the font of the time table, laid out.
-struct TimeTableText
+class TimeTableText final
 {
+public:
     TimeTableText(const QString &text, int pixelSize);
+
+    /// Draws the text in black, with the upper left corner of the document in the painter's origin.
+    /// False, and nothing is drawn, where only the document stands on the right pixels.
+    bool paint(QPainter *painter);
 
     QFont font;
     QTextDocument document;
-    QStaticText glyphs;
+
+private:
+    double ascent();
+
+    bool m_isOneLine;
+    double m_ascent = -1.0; // px, once it was asked for
+    QStaticText m_glyphs;
+    KeptInk m_ink;
 };
 
 /// Lends texts to the labels that bear them. Laying one out costs more than a label does without,

@@ -4,16 +4,9 @@
 #include "timetable/TimeTableFont.h"
 #include "timetable/TimeTableText.h"
 
-#include <QPainter>
-
-#include <cmath>
 #include <utility>
 
 namespace Zavo {
-
-namespace {
-constexpr double documentMargin = 4.0; // px, that of a text document
-} // namespace
 
 TimeTableTextItem::TimeTableTextItem(const QString &text, QGraphicsItem *parent)
     : QGraphicsTextItem(parent)
@@ -62,16 +55,8 @@ QVariant TimeTableTextItem::itemChange(GraphicsItemChange change, const QVariant
 void TimeTableTextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option,
                               QWidget *widget)
 {
-    // Kept glyphs stand on other subpixels than the document's where a pixel is no whole number of
-    // device pixels, and all on one line.
-    const double pixelRatio = painter->deviceTransform().m11();
-    if (pixelRatio != std::floor(pixelRatio) || m_text->document.blockCount() > 1) {
+    if (!m_text->paint(painter))
         QGraphicsTextItem::paint(painter, option, widget);
-        return;
-    }
-    painter->setFont(m_text->font);
-    painter->setPen(Qt::black);
-    painter->drawStaticText(QPointF(documentMargin, documentMargin), m_text->glyphs);
 }
 
 } // namespace Zavo

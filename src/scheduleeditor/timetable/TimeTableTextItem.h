@@ -6,7 +6,7 @@
 
 namespace Zavo {
 
-struct TimeTableText;
+class TimeTableText;
 
 /// A plain text of the time table that is not scaled with the view.
 ///

@@ -40,6 +40,8 @@ ZvTimeTableView::ZvTimeTableView(QGraphicsScene *scene, QWidget *parent)
     // The scene paints every pixel, so nothing has to be painted under it.
     viewport()->setAutoFillBackground(false);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    // Every item sets what it paints with.
+    setOptimizationFlag(DontSavePainterState);
     TimeTableAccessibility::install();
     setAccessibleName(tr("Time table"));
     setWhatsThis(tr("The day of the schedule, from 0 to 24 o'clock. Stages are dropped here, "
