@@ -5,6 +5,7 @@
 #include "HostWindow.h"
 
 #include "timetable/ZvScheduleWorkingArea.h"
+#include "timetable/ZvTimeTableView.h"
 #include "workspace/ZvScheduleTabWidget.h"
 
 #include <QAbstractScrollArea>
@@ -126,8 +127,13 @@ void Monkey::check()
     QStringList wrong;
     if (const ZvScheduleWorkingArea *area = m_house.currentArea()) {
         if (MonkeyChecks::placeInHistory(area) == m_lastPlace &&
-            !MonkeyChecks::differences(m_lastTable, MonkeyChecks::tableOf(area)).isEmpty())
+            !MonkeyChecks::differences(m_lastTable, MonkeyChecks::tableOf(area)).isEmpty()) {
+            // A drag whose release went to a menu or to the explanations is under way until
+            // something else comes upon it.
+            if (ZvTimeTableView *view = m_house.view())
+                view->completeMove();
             QTest::qWait(ReportDelay);
+        }
     }
     checkHistory(&wrong);
     if (!m_house.isClosed())

@@ -46,6 +46,16 @@ QList<QAction *> actionsOf(const QList<QMenu *> &menus)
     return all;
 }
 
+/// What a drag over @p place of @p widget comes to: something may lie over it.
+QWidget *dropTargetAt(const QWidget *widget, const QPoint &place)
+{
+    QWidget *window = widget->window();
+    QWidget *target = window->childAt(widget->mapTo(window, place));
+    while (target && !target->acceptDrops())
+        target = target->isWindow() ? nullptr : target->parentWidget();
+    return target ? target : window;
+}
+
 } // namespace
 
 void Monkey::act()
@@ -229,6 +239,8 @@ void Monkey::dragStages()
         return;
     const bool onTable = view && widget == view->viewport();
     QPoint place = onTable ? tablePosition() : m_choice.pointIn(widget->rect());
+    if (dropTargetAt(widget, place) != widget)
+        return;
     note(QStringLiteral("drag stages to %1,%2 of %3")
              .arg(place.x())
              .arg(place.y())
