@@ -6,6 +6,7 @@
 #include "ZvEditorCommon.h"
 
 #include <QGraphicsLineItem>
+#include <QLabel>
 #include <QtTest>
 
 using namespace Zavo;
@@ -94,6 +95,7 @@ private Q_SLOTS:
     void leaveHidesTheDropLine();
     void timeIsReportedAtEveryMove();
     void dropAfterARightClickOnABand();
+    void noticeOfAMissingScheduleTakesNothing();
 };
 
 void tst_StageDrop::init()
@@ -444,6 +446,25 @@ void tst_StageDrop::dropAfterARightClickOnABand()
     mouse.click(QPointF(onStrip, yOf("08:30:00")), Qt::RightButton);
     QVERIFY(drop("a.xml", yOf("09:00:00")));
     QCOMPARE(m_table->count(), 2);
+}
+
+// What came onto the table of a schedule that is not there would be gone with the next switch.
+void tst_StageDrop::noticeOfAMissingScheduleTakesNothing()
+{
+    m_table->view()->setNoScheduleLabelVisible(true);
+    auto *notice = m_table->view()->findChild<QLabel *>();
+    QVERIFY(notice && notice->isVisible());
+    m_table->scrollTo(yOf("08:00:00"));
+    const QPoint place =
+        notice->mapFrom(m_table->view(), m_table->view()->mapFromScene(onStrip, yOf("08:00:00")));
+    DragGesture drag(stages({QStringLiteral("a.xml")}));
+    QVERIFY(!drag.enter(notice, place));
+    QCOMPARE(m_table->view()->childAt(notice->mapTo(m_table->view(), place)), notice);
+    QCOMPARE(m_table->count(), 0);
+
+    m_table->view()->setNoScheduleLabelVisible(false);
+    QVERIFY(drop("a.xml", yOf("08:00:00")));
+    QCOMPARE(m_table->count(), 1);
 }
 
 QTEST_MAIN(tst_StageDrop)

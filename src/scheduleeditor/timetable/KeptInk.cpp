@@ -46,6 +46,7 @@ void drawGlyphs(QPainter *painter, const QPointF &position, const QStaticText &t
 
 void drawSample(QPainter *painter)
 {
+    painter->setPen(Qt::black);
     painter->drawText(painter->viewport(), QStringLiteral("#Wil"));
 }
 
