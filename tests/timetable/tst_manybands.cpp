@@ -16,6 +16,16 @@ namespace {
 constexpr int bandCount = 20;
 constexpr int minutesApart = 60;
 
+QList<ZvTime> manyBands()
+{
+    QList<ZvTime> times;
+    for (int i = 0; i < bandCount; ++i) {
+        const QTime start = QTime(0, 0).addSecs(i * minutesApart * 60);
+        times.append({start, start.addSecs(600), QStringLiteral("a.xml")});
+    }
+    return times;
+}
+
 /// What a widget is asked to paint from now on.
 class PaintedRegion final : public QObject
 {
@@ -45,6 +55,9 @@ class tst_ManyBands : public QObject
 private Q_SLOTS:
     void repaintsTheTableOnceForMostOfItsBands_data();
     void repaintsTheTableOnceForMostOfItsBands();
+    void repaintsTheTableOnceForASelectionOfAll();
+    void repaintsTheTableOnceForAMoveOfMost_data();
+    void repaintsTheTableOnceForAMoveOfMost();
     void sharesOnePenAmongAllMarks();
     void givesBackOnlyWhatIsRead_data();
     void givesBackOnlyWhatIsRead();
@@ -65,11 +78,7 @@ void tst_ManyBands::repaintsTheTableOnceForMostOfItsBands()
     QFETCH(int, removed);
     QFETCH(bool, asAWhole);
     TimeTableFixture table;
-    QList<ZvTime> times;
-    for (int i = 0; i < bandCount; ++i) {
-        const QTime start = QTime(0, 0).addSecs(i * minutesApart * 60);
-        times.append({start, start.addSecs(600), QStringLiteral("a.xml")});
-    }
+    const QList<ZvTime> times = manyBands();
     QVERIFY(table.fill(times));
     table.paint();
 
@@ -77,6 +86,46 @@ void tst_ManyBands::repaintsTheTableOnceForMostOfItsBands()
     table.scene()->removeTimeItems(times.mid(0, removed));
     QCOMPARE(table.count(), bandCount - removed);
     QCoreApplication::processEvents();
+    QVERIFY(!painted.region().isEmpty());
+    QCOMPARE(painted.region() == QRegion(table.view()->viewport()->rect()), asAWhole);
+}
+
+void tst_ManyBands::repaintsTheTableOnceForASelectionOfAll()
+{
+    TimeTableFixture table;
+    QVERIFY(table.fill(manyBands()));
+    table.strip()->clearSelection();
+    table.paint();
+    PaintedRegion painted(table.view()->viewport());
+    table.strip()->selectAllTimeItems();
+    QCoreApplication::processEvents();
+    QCOMPARE(painted.region(), QRegion(table.view()->viewport()->rect()));
+}
+
+void tst_ManyBands::repaintsTheTableOnceForAMoveOfMost_data()
+{
+    QTest::addColumn<int>("moved");
+    QTest::addColumn<bool>("asAWhole");
+    QTest::newRow("one") << 1 << false;
+    QTest::newRow("half") << bandCount / 2 << false;
+    QTest::newRow("most") << bandCount / 2 + 1 << true;
+}
+
+void tst_ManyBands::repaintsTheTableOnceForAMoveOfMost()
+{
+    QFETCH(int, moved);
+    QFETCH(bool, asAWhole);
+    TimeTableFixture table;
+    QVERIFY(table.fill(manyBands()));
+    table.strip()->clearSelection();
+    for (ZvTimeTableTimeItem *item : table.strip()->timeItems().mid(0, moved))
+        item->setSelected(true);
+    table.paint();
+    const double before = table.strip()->timeItems().first()->y();
+    PaintedRegion painted(table.view()->viewport());
+    QVERIFY(table.scene()->moveSelectedTimeItems(QPointF(0.0, 5.0), QPointF()));
+    QCoreApplication::processEvents();
+    QCOMPARE(table.strip()->timeItems().first()->y(), before + 5.0);
     QVERIFY(!painted.region().isEmpty());
     QCOMPARE(painted.region() == QRegion(table.view()->viewport()->rect()), asAWhole);
 }

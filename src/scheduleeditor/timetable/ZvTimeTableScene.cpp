@@ -295,6 +295,8 @@ bool ZvTimeTableScene::moveSelectedTimeItems(const QPointF &current, const QPoin
     const double dy = current.y() - last.y();
     if (dy == 0.0 || m_selectedTimeItems.isEmpty())
         return false;
+    if (m_timeZoneItem)
+        m_timeZoneItem->expectChangesOf(m_selectedTimeItems.size());
     if (BandMotion::move(m_selectedTimeItems, dy))
         reportMove();
     return true;

@@ -293,6 +293,12 @@ void ZvTimeTableTimeZoneItem::removeAllTimeItems()
     Q_EMIT timeItemCountChanged(0);
 }
 
+void ZvTimeTableTimeZoneItem::expectChangesOf(int bands)
+{
+    if (bands > 1 && bands > m_timeItems.count() / 2)
+        repaintAsAWhole();
+}
+
 // Where most of the table is to be painted anew, the views need not be told of each band.
 void ZvTimeTableTimeZoneItem::repaintAsAWhole()
 {
@@ -323,6 +329,7 @@ void ZvTimeTableTimeZoneItem::setTimeItemTimes(const QMap<int, ZvTime> &itemTime
 void ZvTimeTableTimeZoneItem::selectAllTimeItems()
 {
     const BulkChange bulk(this);
+    expectChangesOf(m_timeItems.count());
     for (ZvTimeTableTimeItem *item : m_timeItems.items())
         item->setSelected(true);
 }

@@ -73,6 +73,9 @@ public:
     /// Gives bands new records by index, with no check of their order and no signal.
     void setTimeItemTimes(const QMap<int, ZvTime> &itemTimes);
 
+    /// Says that so many bands are about to change: most of them are painted anew with the table.
+    void expectChangesOf(int bands);
+
     void selectAllTimeItems();
     void clearSelection();
     /// Selects the band after the first selected one, or the first of all, and brings it into
