@@ -6,8 +6,13 @@
 #include "UploadBench.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QPointer>
+#include <QTimer>
 #include <QtTest>
+
+#include <algorithm>
+#include <functional>
 
 using Zavo::UploadJob;
 using Zavo::UploadRun;
@@ -22,6 +27,19 @@ using State = Zavo::UploadJob::State;
 namespace {
 constexpr int megabyte = 1024 * 1024;
 constexpr int longestUploadMs = 60000;
+
+/// Waits until @p condition holds after a change of @p run: what passes quickly is not to be seen
+/// by looking now and then.
+bool comesToPass(const UploadRun *run, const std::function<bool()> &condition)
+{
+    QEventLoop loop;
+    QObject::connect(run, &UploadRun::changed, &loop, [&] {
+        if (condition())
+            loop.exit(1);
+    });
+    QTimer::singleShot(longestUploadMs, &loop, &QEventLoop::quit);
+    return condition() || loop.exec() == 1;
+}
 } // namespace
 
 class tst_Upload : public QObject
@@ -252,12 +270,12 @@ void tst_Upload::servesSeveralTargetsAtOnce()
     }
     addresses.append(target() + QStringLiteral("/none"));
     const auto run = begin(addresses);
-    int most = 0;
+    int most = run->count(State::Running);
+    QObject::connect(run.get(), &UploadRun::changed, this,
+                     [&] { most = std::max(most, run->count(State::Running)); });
     SignalLog log;
     log.watch(run.get(), SIGNAL(finished()));
-    QTRY_VERIFY_WITH_TIMEOUT((most = std::max(most, run->count(State::Running)),
-                              log.count(QStringLiteral("finished")) == 1),
-                             longestUploadMs);
+    QTRY_COMPARE_WITH_TIMEOUT(log.count(QStringLiteral("finished")), 1, longestUploadMs);
     QVERIFY2(most > 1 && most <= UploadRun::mostAtOnce, qPrintable(QString::number(most)));
     QCOMPARE(run->count(State::Done), addresses.size() - 1);
     QCOMPARE(run->jobs().last()->state(), State::Failed);
@@ -426,10 +444,11 @@ void tst_Upload::placingIsNotLeftHalfDone()
 {
     prepareSecondSet(target());
     auto run = begin({target()});
-    QTRY_COMPARE_WITH_TIMEOUT(run->jobs().first()->message(), QStringLiteral("Putting in place"),
-                              longestUploadMs);
+    const UploadJob *const job = run->jobs().first();
+    QVERIFY(comesToPass(run.get(),
+                        [job] { return job->message() == QStringLiteral("Putting in place"); }));
     run->cancel();
-    QCOMPARE(run->jobs().first()->state(), State::Running);
+    QCOMPARE(job->state(), State::Running);
     run.reset();
     auto wanted = expected();
     wanted.remove(QStringLiteral("stage/sub/b.xml"));
@@ -511,7 +530,8 @@ void tst_Upload::savingMeanwhileChangesNothing()
     ZavoTest::writeChannel(*m_folder, 2, QStringLiteral("large.zstg"));
     const auto wanted = expected();
     const auto run = begin({m_daemon->address()});
-    QTRY_COMPARE_WITH_TIMEOUT(run->jobs().first()->state(), State::Running, longestUploadMs);
+    QVERIFY(
+        comesToPass(run.get(), [&run] { return run->jobs().first()->state() == State::Running; }));
     ZavoTest::writeChannel(*m_folder, 0, QStringLiteral("other.xml"));
     QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("stage/large.zstg"))));
     QTRY_VERIFY_WITH_TIMEOUT(run->isOver(), longestUploadMs);
