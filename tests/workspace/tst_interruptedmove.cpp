@@ -90,6 +90,7 @@ private Q_SLOTS:
     void pressWithoutAMoveIsNoStep();
     void mouseMovesNothingAfterTheInterruption();
     void lostRelease();
+    void lostReleaseOfARubberBand();
     void rightClickDuringADrag();
     void backToTheStartPastAnObstacle_data();
     void backToTheStartPastAnObstacle();
@@ -269,6 +270,31 @@ void tst_InterruptedMove::lostRelease()
     next.click(QPointF(180.0, yOf("08:30:00")));
     QCOMPARE(tabs.first()->undoStack()->count(), 1);
     QCOMPARE(tabs.state(), moved);
+    tabs.widget()->undo();
+    QCOMPARE(tabs.first()->currentTimes(), mondayBands);
+}
+
+void tst_InterruptedMove::lostReleaseOfARubberBand()
+{
+    const TwoTabs tabs;
+    tabs.view()->centerOn(QPointF(180.0, yOf("10:30:00")));
+    SceneMouse lost(tabs.view());
+    lost.press(QPointF(20.0, yOf("09:50:00")));
+    lost.moveTo(QPointF(60.0, yOf("09:55:00")));
+    QVERIFY(!tabs.view()->rubberBandRect().isNull());
+    tabs.widget()->selectAllItems();
+    const int selected = tabs.first()->selectedTimeItems().size();
+    QVERIFY(selected > 1);
+
+    SceneMouse next(tabs.view());
+    next.press(QPointF(180.0, yOf("10:30:00")));
+    next.moveTo(QPointF(180.0, yOf("10:25:00")));
+    next.moveTo(QPointF(180.0, yOf("10:20:00")));
+    QVERIFY(tabs.view()->rubberBandRect().isNull());
+    QCOMPARE(tabs.first()->selectedTimeItems().size(), selected);
+    next.release();
+    QVERIFY(tabs.first()->currentTimes() != mondayBands);
+    QCOMPARE(tabs.first()->undoStack()->count(), 1);
     tabs.widget()->undo();
     QCOMPARE(tabs.first()->currentTimes(), mondayBands);
 }

@@ -144,6 +144,14 @@ bool ZvTimeTableView::event(QEvent *event)
     return QGraphicsView::event(event);
 }
 
+// One whose release went to a menu would go on selecting during the next drag, which then moves
+// what it selects.
+void ZvTimeTableView::dropRubberBand()
+{
+    setDragMode(NoDrag);
+    setDragMode(RubberBandDrag);
+}
+
 // A press during a drag is that of another button. The right one leaves the selection and the drag
 // as they are.
 bool ZvTimeTableView::viewportEvent(QEvent *event)
@@ -152,8 +160,10 @@ bool ZvTimeTableView::viewportEvent(QEvent *event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         completeKeyMove();
-        if (static_cast<QMouseEvent *>(event)->button() != Qt::RightButton)
+        if (static_cast<QMouseEvent *>(event)->button() != Qt::RightButton) {
             completeMove();
+            dropRubberBand();
+        }
         break;
     case QEvent::MouseButtonRelease:
     case QEvent::Drop:

@@ -67,6 +67,7 @@ private Q_SLOTS:
 private:
     ZvTimeTableScene *timeTableScene() const;
     void completeKeyMove();
+    void dropRubberBand();
     bool isMovingKey(const QKeyEvent *event) const;
 
     QString m_timeString;
