@@ -21,8 +21,8 @@ public:
 
     /// Draws @p text with its upper left corner at @p position in the painter's coordinates, whose
     /// transform scales by a whole number at most. @p ascent is that of its only line, in the same
-    /// units. A text is kept when it is drawn for the second time in a row
-    /// on the same part of a pixel.
+    /// units. A text is kept when it is drawn for the second time in a row on the same part of a
+    /// pixel.
     void draw(QPainter *painter, const QPointF &position, const QStaticText &text,
               const QFont &font, double ascent);
 
